@@ -1,0 +1,161 @@
+/// \file
+/// The command CONSTRAINT_. The const operations of a loaded command may be used from several threads.
+///
+/// Generated from commands/gyre_commands.toml by src/OrvelCommands/commands/generator. Do not edit: change
+/// the table and run `./run generate`.
+#pragma once
+
+#include "OrvelCommands/commands/OrvelCommand.h"
+#include "OrvelCommands/foundation/KLV_ParfileException.h"
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#ifdef _MSC_VER
+#pragma warning(push)
+#pragma warning(disable : 4251)
+#endif
+
+class OrvelParfileStorage;
+class DRESP_;
+class FILTER_;
+class OPERATOR_;
+namespace orvel::detail
+{
+struct ReferenceLinker;
+}
+
+/// Constraint of the optimization: a bound on a response or an operator.
+class ORVELCOMMANDS_EXPORT CONSTRAINT_ : public OrvelCommand
+{
+public:
+  /// Whether the bound is an upper or a lower one.
+  enum Enum_TYPE_ : std::int32_t
+  {
+    TYPE_GREATER_EQUAL = 71,
+    TYPE_LESS_EQUAL = 76
+  };
+
+  /// Whether the bound is an absolute or a relative value.
+  enum Enum_MAGNITUDE_ : std::int32_t
+  {
+    MAGNITUDE_ABS = 65,
+    MAGNITUDE_REL = 82,
+    MAGNITUDE_REL_VALUE = 86
+  };
+
+  /// How the sensitivities of the constraint are scaled.
+  enum Enum_SENSSCALING_TYPE_ : std::int32_t
+  {
+    SENSSCALING_TYPE_NONE = 78,
+    SENSSCALING_TYPE_NORMED_TO_ONE = 79,
+    SENSSCALING_TYPE_SCALED = 83
+  };
+
+  /// The command's name in the text of a parameter file.
+  static constexpr const char* COMMAND_NAME = "CONSTRAINT";
+
+  /// "CONSTRAINT_", the name under which a storage knows the kind.
+  static const std::string s_type;
+
+  /// Every value is zero, false, null or empty.
+  CONSTRAINT_() = default;
+
+  /// References are copied as pointers: the copy refers to the same commands.
+  CONSTRAINT_(const CONSTRAINT_& other) = default;
+  CONSTRAINT_& operator=(const CONSTRAINT_& other) = default;
+  ~CONSTRAINT_() override = default;
+
+  /// Reads all keys but the references from the storage. Nothing is cleared first and no value is tested.
+  /// Throws: what the storage throws; members read before then keep what they got.
+  void Load(const OrvelParfileStorage& storage, const std::string& id);
+
+  /// Writes one record to the debug log: a line for each member, cut at 1023 characters.
+  /// \warning A "%" in a value acts as a printf conversion of a zero or empty argument.
+  void ToString() const;
+
+  /// Appends a problem for each model id that the open database does not know.
+  /// \param id the command's name in the storage, from which the ids are read again
+  /// Throws: what the storage throws; without an open database a KLV_Failure as soon as there is an id to check.
+  void ValidateModelIds(const OrvelParfileStorage& storage, std::string& id,
+                        std::vector<KLV_ParfileException>& errors);
+
+  const std::string& GetType() const override;
+  const std::string& GetID_NAME_() const override { return m_ID_NAME_; }
+
+  /// \name The text of an enumerator, "INVALID" for any other number
+  /// @{
+  static std::string GetEnumName(Enum_TYPE_ value);
+  static std::string GetEnumName(Enum_MAGNITUDE_ value);
+  static std::string GetEnumName(Enum_SENSSCALING_TYPE_ value);
+  /// @}
+
+  /// Response that is bounded.
+  /// Requires: the reference is there and resolved; nothing is tested. Ownership: the parameter file's.
+  const DRESP_& GetDRESP_() const { return *m_DRESP_; }
+
+  /// Whether DRESP_ is there.
+  bool HasDRESP_() const { return m_has_DRESP_; }
+
+  /// Operator that is bounded in place of a response.
+  /// Requires: the reference is there and resolved; nothing is tested. Ownership: the parameter file's.
+  const OPERATOR_& GetOPERATOR_() const { return *m_OPERATOR_; }
+
+  /// Whether OPERATOR_ is there.
+  bool HasOPERATOR_() const { return m_has_OPERATOR_; }
+
+  /// Whether the bound is an upper or a lower one.
+  const Enum_TYPE_& GetTYPE_() const { return m_TYPE_; }
+
+  /// Whether the bound is an absolute or a relative value.
+  const Enum_MAGNITUDE_& GetMAGNITUDE_() const { return m_MAGNITUDE_; }
+
+  /// Bound of the constraint, absolute or relative as its magnitude says.
+  const double& GetVALUE_() const { return m_VALUE_; }
+
+  /// Coefficient of the constraint, handed on to the optimizer unread.
+  const double& GetCOEFFICIENT_() const { return m_COEFFICIENT_; }
+
+  /// Coefficient a of a min-max formulation, handed on to the optimizer unread.
+  const double& GetA_MINMAX_COEFFICIENT_() const { return m_A_MINMAX_COEFFICIENT_; }
+
+  /// How the sensitivities of the constraint are scaled.
+  const Enum_SENSSCALING_TYPE_& GetSENSSCALING_TYPE_() const { return m_SENSSCALING_TYPE_; }
+
+  /// Value that goes with the scaling of the sensitivities.
+  const double& GetSENSSCALING_VALUE_() const { return m_SENSSCALING_VALUE_; }
+
+  /// Filters that act on the sensitivities, in order. Ownership: the parameter file's.
+  const std::vector<const FILTER_*>& GetFILTER_() const { return m_FILTER_; }
+
+  /// The command at a place counted from 1.
+  /// Throws: "Invalid index ... of the parameterfile value FILTER_ to retrieve from ..." with code "220653270608" for an
+  /// \p index outside 1 to NumFILTER_().
+  const FILTER_& GetFILTER_(std::uint64_t index) const;
+
+  /// How many values FILTER_ has.
+  std::uint64_t NumFILTER_() const { return m_num_FILTER_; }
+
+private:
+  friend struct orvel::detail::ReferenceLinker;
+
+  std::string m_ID_NAME_;
+  bool m_has_DRESP_ = false;
+  const DRESP_* m_DRESP_ = nullptr;
+  bool m_has_OPERATOR_ = false;
+  const OPERATOR_* m_OPERATOR_ = nullptr;
+  Enum_TYPE_ m_TYPE_ = static_cast<Enum_TYPE_>(0);
+  Enum_MAGNITUDE_ m_MAGNITUDE_ = static_cast<Enum_MAGNITUDE_>(0);
+  double m_VALUE_ = 0.0;
+  double m_COEFFICIENT_ = 0.0;
+  double m_A_MINMAX_COEFFICIENT_ = 0.0;
+  Enum_SENSSCALING_TYPE_ m_SENSSCALING_TYPE_ = static_cast<Enum_SENSSCALING_TYPE_>(0);
+  double m_SENSSCALING_VALUE_ = 0.0;
+  std::uint64_t m_num_FILTER_ = 0;
+  std::vector<const FILTER_*> m_FILTER_;
+};
+
+#ifdef _MSC_VER
+#pragma warning(pop)
+#endif

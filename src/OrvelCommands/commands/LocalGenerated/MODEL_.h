@@ -1,0 +1,81 @@
+/// \file
+/// The command MODEL_. The const operations of a loaded command may be used from several threads.
+///
+/// Generated from commands/gyre_commands.toml by src/OrvelCommands/commands/generator. Do not edit: change
+/// the table and run `./run generate`.
+#pragma once
+
+#include "OrvelCommands/commands/OrvelCommand.h"
+#include "OrvelCommands/foundation/KLV_ParfileException.h"
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#ifdef _MSC_VER
+#pragma warning(push)
+#pragma warning(disable : 4251)
+#endif
+
+class OrvelParfileStorage;
+namespace orvel::detail
+{
+struct ReferenceLinker;
+}
+
+/// Model that the job works on: the file that holds it and the solver that it belongs to.
+class ORVELCOMMANDS_EXPORT MODEL_ : public OrvelCommand
+{
+public:
+  /// The command's name in the text of a parameter file.
+  static constexpr const char* COMMAND_NAME = "MODEL_INPUT";
+
+  /// "MODEL_", the name under which a storage knows the kind.
+  static const std::string s_type;
+
+  /// Every value is zero, false, null or empty.
+  MODEL_() = default;
+
+  /// References are copied as pointers: the copy refers to the same commands.
+  MODEL_(const MODEL_& other) = default;
+  MODEL_& operator=(const MODEL_& other) = default;
+  ~MODEL_() override = default;
+
+  /// Reads all keys but the references from the storage. Nothing is cleared first and no value is tested.
+  /// Throws: what the storage throws; members read before then keep what they got.
+  void Load(const OrvelParfileStorage& storage, const std::string& id);
+
+  /// Writes one record to the debug log: a line for each member, cut at 1023 characters.
+  /// \warning A "%" in a value acts as a printf conversion of a zero or empty argument.
+  void ToString() const;
+
+  /// Appends a problem for each model id that the open database does not know.
+  /// \param id the command's name in the storage, from which the ids are read again
+  /// Throws: what the storage throws; without an open database a KLV_Failure as soon as there is an id to check.
+  void ValidateModelIds(const OrvelParfileStorage& storage, std::string& id,
+                        std::vector<KLV_ParfileException>& errors);
+
+  const std::string& GetType() const override;
+  const std::string& GetID_NAME_() const override { return m_ID_NAME_; }
+
+  /// File that holds the model.
+  const std::string& GetFILE_() const { return m_FILE_; }
+
+  /// Solver that the model belongs to.
+  const std::string& GetSOLVER_() const { return m_SOLVER_; }
+
+  /// Whether SOLVER_ is there.
+  bool HasSOLVER_() const { return m_has_SOLVER_; }
+
+private:
+  friend struct orvel::detail::ReferenceLinker;
+
+  std::string m_ID_NAME_;
+  std::string m_FILE_;
+  bool m_has_SOLVER_ = false;
+  std::string m_SOLVER_;
+};
+
+#ifdef _MSC_VER
+#pragma warning(pop)
+#endif

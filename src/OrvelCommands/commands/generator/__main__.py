@@ -1,0 +1,70 @@
+"""Generates the command classes and all else that follows from the command tables."""
+
+import argparse
+import difflib
+import sys
+from pathlib import Path
+
+from outputs import COMMAND_LINE, GENERATED, make_outputs
+from table import TableError, read_tables
+
+LIBRARY = Path(__file__).resolve().parents[2]
+TABLES = ("gyre_commands", "smooth_commands")
+
+
+def stale_files(library, outputs):
+    """Files of the generated folder that no table gives any more."""
+    return [path for path in sorted((library / GENERATED).glob("*"))
+            if path.suffix in (".h", ".cpp") and f"{GENERATED}/{path.name}" not in outputs]
+
+
+def write(library, outputs):
+    for name, text in outputs.items():
+        path = library / name
+        path.parent.mkdir(parents=True, exist_ok=True)
+        if not path.exists() or path.read_text(encoding="utf-8") != text:
+            path.write_text(text, encoding="utf-8")
+            print(f"written: {name}")
+    for path in stale_files(library, outputs):
+        path.unlink()
+        print(f"removed: {GENERATED}/{path.name}")
+
+
+def check(library, outputs):
+    """Prints how the files differ from the tables; gives whether they do."""
+    differs = False
+    for name, text in outputs.items():
+        path = library / name
+        present = path.read_text(encoding="utf-8") if path.exists() else ""
+        diff = list(difflib.unified_diff(present.splitlines(True), text.splitlines(True), name, "from the tables"))
+        sys.stdout.writelines(diff)
+        differs = differs or bool(diff)
+    for path in stale_files(library, outputs):
+        print(f"{GENERATED}/{path.name} follows from no table")
+        differs = True
+    if differs:
+        print(f"The generated files do not follow from the tables. Mend with: {COMMAND_LINE}")
+    return differs
+
+
+def main():
+    parser = argparse.ArgumentParser(prog="generator", description=__doc__)
+    parser.add_argument("--library", type=Path, default=LIBRARY, help="the folder src/OrvelCommands")
+    mode = parser.add_mutually_exclusive_group(required=True)
+    mode.add_argument("--write", action="store_true", help="write the files that differ")
+    mode.add_argument("--check", action="store_true", help="show what differs and fail if anything does")
+    options = parser.parse_args()
+    try:
+        tables = read_tables([options.library / "commands" / f"{name}.toml" for name in TABLES])
+    except (TableError, OSError) as error:
+        print(error, file=sys.stderr)
+        return 2
+    outputs = make_outputs(tables)
+    if options.check:
+        return 1 if check(options.library, outputs) else 0
+    write(options.library, outputs)
+    return 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())

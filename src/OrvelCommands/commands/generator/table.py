@@ -1,0 +1,215 @@
+"""The command tables as checked, frozen records."""
+
+import re
+import tomllib
+from dataclasses import dataclass
+from pathlib import Path
+
+VALUE_TYPES = ("int32", "double", "string", "model_id", "enum", "int32_list", "double_list", "reference")
+PRESENCES = ("always", "optional", "repeated")
+ID_TYPES = ("coordinate_system", "node_group", "face_group", "element_group")
+COUNTS = ("one", "any")
+
+# The one column that each of these types has beyond those of every row.
+EXTRA_COLUMN = {"model_id": "ids", "enum": "enumerators", "reference": "target"}
+
+CLASS_PATTERN = re.compile(r"[A-Z][A-Z0-9]*(_[A-Z0-9]+)*_")
+NAME_PATTERN = re.compile(r"[A-Z][A-Z0-9]*(_[A-Z0-9]+)*")
+SET_PATTERN = re.compile(r"[a-z][a-z0-9]*(_[a-z0-9]+)*")
+
+
+class TableError(Exception):
+    """A wrong table. The text names the file, the command and the field."""
+
+
+@dataclass(frozen=True)
+class EnumeratorSet:
+    name: str
+    enumerators: tuple[tuple[str, int], ...]
+
+
+@dataclass(frozen=True)
+class Field:
+    key: str
+    type: str
+    presence: str
+    doc: str
+    ids: str = ""
+    target: str = ""
+    enumerators: EnumeratorSet | None = None
+
+
+@dataclass(frozen=True)
+class Command:
+    class_name: str
+    text_name: str
+    count: str
+    log_line: int
+    doc: str
+    fields: tuple[Field, ...]
+    source: str
+
+
+@dataclass(frozen=True)
+class Aggregate:
+    class_name: str
+    also: tuple[str, ...]
+    doc: str
+
+
+@dataclass(frozen=True)
+class Table:
+    name: str
+    log_source: str
+    aggregate: Aggregate
+    enumerator_sets: tuple[EnumeratorSet, ...]
+    commands: tuple[Command, ...]
+
+
+class _Place:
+    """Where the reader stands, for the text of an error."""
+
+    def __init__(self, *parts):
+        self.parts = parts
+
+    def within(self, part):
+        return _Place(*self.parts, part)
+
+    def fail(self, reason):
+        raise TableError(f"{': '.join(self.parts)}: {reason}")
+
+    def take(self, row, column, kind, what):
+        if column not in row:
+            self.fail(f"the column {column} is missing")
+        value = row[column]
+        if not isinstance(value, kind) or isinstance(value, bool) or value == "":
+            self.fail(f"{column} must be {what}, not {value!r}")
+        return value
+
+    def take_text(self, row, column):
+        text = self.take(row, column, str, "a text that is not empty")
+        if not text.isprintable() or '"' in text:
+            self.fail(f"{column} must be one line without double quotes, not {text!r}")
+        return text
+
+    def take_choice(self, row, column, choices):
+        value = self.take_text(row, column)
+        if value not in choices:
+            self.fail(f"{column} must be one of {', '.join(choices)}, not {value!r}")
+        return value
+
+    def take_name(self, row, column, pattern):
+        value = self.take_text(row, column)
+        if not pattern.fullmatch(value):
+            self.fail(f"{column} {value!r} is not of the form {pattern.pattern}")
+        return value
+
+    def allow_only(self, row, columns):
+        for column in row:
+            if column not in columns:
+                self.fail(f"there is no column {column}; the columns are {', '.join(columns)}")
+
+    def require_unique(self, names, what):
+        seen = set()
+        for name in names:
+            if name in seen:
+                self.fail(f"{what} {name} stands twice")
+            seen.add(name)
+
+
+def read_tables(paths):
+    """Gives the tables of these files, in this order, or raises TableError."""
+    tables = tuple(_read_table(Path(path)) for path in paths)
+    place = _Place("command tables")
+    place.require_unique((c.class_name for t in tables for c in t.commands), "the class")
+    place.require_unique((t.aggregate.class_name for t in tables), "the aggregate")
+    names = {table.name for table in tables}
+    classes = {command.class_name for table in tables for command in table.commands}
+    for table in tables:
+        table_place = _Place(f"{table.name}.toml")
+        for also in table.aggregate.also:
+            if also not in names:
+                table_place.within("aggregate").fail(f"also names the unknown table {also}")
+        for command in table.commands:
+            for field in command.fields:
+                if field.target and field.target not in classes:
+                    table_place.within(command.class_name).within(field.key).fail(
+                        f"target names the unknown class {field.target}")
+    return tables
+
+
+def _read_table(path):
+    place = _Place(path.name)
+    try:
+        data = tomllib.loads(path.read_text(encoding="utf-8"))
+    except tomllib.TOMLDecodeError as error:
+        place.fail(error)
+    place.allow_only(data, ("log_source", "aggregate", "enumerators", "command"))
+    aggregate = _read_aggregate(place.within("aggregate"), place.take(data, "aggregate", dict, "a table"))
+    sets = {name: _read_set(place.within(f"enumerators.{name}"), name, rows)
+            for name, rows in data.get("enumerators", {}).items()}
+    commands = tuple(_read_command(place, path.stem, row, sets)
+                     for row in place.take(data, "command", list, "a list of commands"))
+    used = {field.enumerators.name for c in commands for field in c.fields if field.enumerators}
+    for name in sets:
+        if name not in used:
+            place.within(f"enumerators.{name}").fail("no field uses this set")
+    return Table(path.stem, place.take_text(data, "log_source"), aggregate, tuple(sets.values()), commands)
+
+
+def _read_aggregate(place, row):
+    place.allow_only(row, ("class", "also", "doc"))
+    also = place.take(row, "also", list, "a list of tables")
+    return Aggregate(place.take_text(row, "class"), tuple(also), place.take_text(row, "doc"))
+
+
+def _read_set(place, name, rows):
+    if not SET_PATTERN.fullmatch(name):
+        place.fail(f"the name is not of the form {SET_PATTERN.pattern}")
+    if not isinstance(rows, dict) or not rows:
+        place.fail("a set holds at least one enumerator")
+    for enumerator, number in rows.items():
+        if not NAME_PATTERN.fullmatch(enumerator):
+            place.fail(f"{enumerator!r} is not of the form {NAME_PATTERN.pattern}")
+        if type(number) is not int or not 0 < number < 2**31:
+            place.fail(f"{enumerator} must have a number from 1 to 2147483647, not {number!r}")
+    place.require_unique(rows.values(), "the number")
+    return EnumeratorSet(name, tuple(rows.items()))
+
+
+def _read_command(place, source, row, sets):
+    place = place.within(str(row.get("class", "a command without class")))
+    place.allow_only(row, ("class", "text_name", "count", "log_line", "doc", "fields"))
+    fields = tuple(_read_field(place, field, sets)
+                   for field in place.take(row, "fields", list, "a list of rows"))
+    place.require_unique((field.key for field in fields), "the key")
+    log_line = place.take(row, "log_line", int, "a line number")
+    return Command(
+        class_name=place.take_name(row, "class", CLASS_PATTERN),
+        text_name=place.take_name(row, "text_name", NAME_PATTERN),
+        count=place.take_choice(row, "count", COUNTS),
+        log_line=log_line,
+        doc=place.take_text(row, "doc"),
+        fields=fields,
+        source=source)
+
+
+def _read_field(place, row, sets):
+    place = place.within(str(row.get("key", "a row without key")))
+    key = place.take_name(row, "key", CLASS_PATTERN)
+    if key == "ID_NAME_":
+        place.fail("every command has its ID_NAME_ without a row")
+    value_type = place.take_choice(row, "type", VALUE_TYPES)
+    presence = place.take_choice(row, "presence", PRESENCES)
+    if value_type.endswith("_list") and presence == "repeated":
+        place.fail("a list that is one value cannot be repeated")
+    extra = EXTRA_COLUMN.get(value_type)
+    place.allow_only(row, ("key", "type", "presence", "doc") + ((extra,) if extra else ()))
+    doc = place.take_text(row, "doc")
+    if extra == "ids":
+        return Field(key, value_type, presence, doc, ids=place.take_choice(row, extra, ID_TYPES))
+    if extra == "target":
+        return Field(key, value_type, presence, doc, target=place.take_name(row, extra, CLASS_PATTERN))
+    if extra == "enumerators":
+        return Field(key, value_type, presence, doc, enumerators=sets[place.take_choice(row, extra, tuple(sets))])
+    return Field(key, value_type, presence, doc)

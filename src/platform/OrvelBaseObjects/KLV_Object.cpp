@@ -1,0 +1,3 @@
+#include "OrvelBaseObjects/KLV_Object.h"
+
+KLV_Object::~KLV_Object() = default;

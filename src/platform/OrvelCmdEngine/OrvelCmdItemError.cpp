@@ -1,0 +1,3 @@
+#include "OrvelCmdEngine/OrvelCmdItemError.h"
+
+OrvelCmdItemError::~OrvelCmdItemError() = default;

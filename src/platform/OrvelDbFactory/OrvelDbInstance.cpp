@@ -1,0 +1,3 @@
+#include "OrvelDbFactory/OrvelDbInstance.h"
+
+KLV_Database* OrvelDbInstance::s_Singleton = nullptr;

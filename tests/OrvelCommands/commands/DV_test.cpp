@@ -1,0 +1,232 @@
+#include "OrvelCommands/commands/gyre_commands.h"
+#include "OrvelCommands/parfile/Gyre_Parfile.h"
+#include "support/CapturedLog.h"
+#include "support/OpenDatabase.h"
+#include "support/RecordingStorage.h"
+#include "support/failures.h"
+#include "support/required_commands.h"
+
+#include <gmock/gmock.h>
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+namespace
+{
+
+RecordingStorage StorageWithFullDv()
+{
+  RecordingStorage storage;
+  auto& keys = storage.Command("DV_", "porosity");
+  keys["ELEMENT_GROUP_"] = {std::string("duct")};
+  keys["NODE_GROUP_"] = {std::string("wall_nodes")};
+  keys["INITIAL_"] = {0.4};
+  keys["INITIAL_DV_FIELD_"] = {std::string("start.csv")};
+  keys["TYPE_"] = {68};
+  keys["FILTER_"] = {Ref{"fine"}, Ref{"coarse"}};
+  keys["DV_"] = {Ref{"left"}, Ref{"right"}};
+  return storage;
+}
+
+RecordingStorage StorageWithSparseDv()
+{
+  RecordingStorage storage;
+  auto& keys = storage.Command("DV_", "bare");
+  keys["INITIAL_"] = {1.0};
+  keys["TYPE_"] = {65};
+  return storage;
+}
+
+DV_ Loaded(const RecordingStorage& storage, const char* id)
+{
+  DV_ command;
+  command.Load(storage, id);
+  return command;
+}
+
+}  // namespace
+
+TEST(Dv, TellsItsNames)
+{
+  EXPECT_STREQ(DV_::COMMAND_NAME, "DV");
+  EXPECT_EQ(DV_::s_type, "DV_");
+  EXPECT_EQ(DV_().GetType(), "DV_");
+}
+
+TEST(Dv, IsEmptyBeforeItIsLoaded)
+{
+  const DV_ command;
+  EXPECT_EQ(command.GetID_NAME_(), "");
+  EXPECT_FALSE(command.HasELEMENT_GROUP_());
+  EXPECT_EQ(command.GetELEMENT_GROUP_(), "");
+  EXPECT_FALSE(command.HasNODE_GROUP_());
+  EXPECT_EQ(command.GetNODE_GROUP_(), "");
+  EXPECT_EQ(command.GetINITIAL_(), 0.0);
+  EXPECT_FALSE(command.HasINITIAL_DV_FIELD_());
+  EXPECT_EQ(command.GetINITIAL_DV_FIELD_(), "");
+  EXPECT_EQ(command.NumFILTER_(), 0U);
+  EXPECT_THAT(command.GetFILTER_(), IsEmpty());
+  EXPECT_EQ(command.GetTYPE_(), 0);
+  EXPECT_EQ(command.NumDV_(), 0U);
+  EXPECT_THAT(command.GetDV_(), IsEmpty());
+}
+
+TEST(Dv, LoadsItsKeysInOrderAndLeavesTheReferencesAlone)
+{
+  const RecordingStorage storage = StorageWithFullDv();
+  Loaded(storage, "porosity");
+  EXPECT_THAT(storage.Calls(), ElementsAre("HasElement(DV_, porosity, ELEMENT_GROUP_)",
+                                           "GetValue(DV_, porosity, ELEMENT_GROUP_, 1, vtmModelId, string)",
+                                           "HasElement(DV_, porosity, NODE_GROUP_)",
+                                           "GetValue(DV_, porosity, NODE_GROUP_, 1, vtmModelId, string)",
+                                           "GetValue(DV_, porosity, INITIAL_, 1, vtmDouble, double)",
+                                           "HasElement(DV_, porosity, INITIAL_DV_FIELD_)",
+                                           "GetValue(DV_, porosity, INITIAL_DV_FIELD_, 1, vtmString, string)",
+                                           "GetEnumValue(DV_, porosity, TYPE_, 1, vtmEnum)"));
+}
+
+TEST(Dv, DoesNotReadOptionalKeysThatAreAbsent)
+{
+  const RecordingStorage storage = StorageWithSparseDv();
+  Loaded(storage, "bare");
+  EXPECT_THAT(storage.Calls(),
+              ElementsAre("HasElement(DV_, bare, ELEMENT_GROUP_)", "HasElement(DV_, bare, NODE_GROUP_)",
+                          "GetValue(DV_, bare, INITIAL_, 1, vtmDouble, double)",
+                          "HasElement(DV_, bare, INITIAL_DV_FIELD_)", "GetEnumValue(DV_, bare, TYPE_, 1, vtmEnum)"));
+}
+
+TEST(Dv, GivesWhatItLoaded)
+{
+  const DV_ command = Loaded(StorageWithFullDv(), "porosity");
+  EXPECT_EQ(command.GetID_NAME_(), "porosity");
+  EXPECT_TRUE(command.HasELEMENT_GROUP_());
+  EXPECT_EQ(command.GetELEMENT_GROUP_(), "duct");
+  EXPECT_TRUE(command.HasNODE_GROUP_());
+  EXPECT_EQ(command.GetNODE_GROUP_(), "wall_nodes");
+  EXPECT_EQ(command.GetINITIAL_(), 0.4);
+  EXPECT_TRUE(command.HasINITIAL_DV_FIELD_());
+  EXPECT_EQ(command.GetINITIAL_DV_FIELD_(), "start.csv");
+  EXPECT_EQ(command.GetTYPE_(), DV_::TYPE_DENSITY);
+  EXPECT_EQ(command.NumFILTER_(), 0U);
+  EXPECT_EQ(command.NumDV_(), 0U);
+}
+
+TEST(Dv, NamesItsEnumerators)
+{
+  EXPECT_EQ(DV_::TYPE_AUTO, 65);
+  EXPECT_EQ(DV_::TYPE_DENSITY, 68);
+  EXPECT_EQ(DV_::TYPE_DETACHED, 69);
+  EXPECT_EQ(DV_::TYPE_NODAL, 78);
+  EXPECT_EQ(DV_::TYPE_NODAL_VECTOR, 86);
+  EXPECT_EQ(DV_::GetEnumName(static_cast<DV_::Enum_TYPE_>(65)), "AUTO");
+  EXPECT_EQ(DV_::GetEnumName(static_cast<DV_::Enum_TYPE_>(68)), "DENSITY");
+  EXPECT_EQ(DV_::GetEnumName(static_cast<DV_::Enum_TYPE_>(69)), "DETACHED");
+  EXPECT_EQ(DV_::GetEnumName(static_cast<DV_::Enum_TYPE_>(78)), "NODAL");
+  EXPECT_EQ(DV_::GetEnumName(static_cast<DV_::Enum_TYPE_>(86)), "NODAL_VECTOR");
+  EXPECT_EQ(DV_::GetEnumName(static_cast<DV_::Enum_TYPE_>(0)), "INVALID");
+  EXPECT_EQ(DV_::GetEnumName(static_cast<DV_::Enum_TYPE_>(66)), "INVALID");
+}
+
+TEST(Dv, PrintsItsDefaults)
+{
+  const KLV_LogRecord record = LogRecordOf(DV_());
+  EXPECT_EQ(record.source, "LocalGenerated\\win_b64\\gyre_commands");
+  EXPECT_EQ(record.line, 1089);
+  EXPECT_EQ(record.prefix, "[%T|%n|%P|OrvelCommands|DV_] ");
+  EXPECT_EQ(record.text,
+            "m_ID_NAME_: \n"
+            "m_has_ELEMENT_GROUP_: no\n"
+            "m_has_NODE_GROUP_: no\n"
+            "m_INITIAL_: 0\n"
+            "m_has_INITIAL_DV_FIELD_: no\n"
+            "m_num_FILTER_: 0\n"
+            "m_FILTER_: [\n]\n"
+            "m_TYPE_: INVALID\n"
+            "m_num_DV_: 0\n"
+            "m_DV_: [\n]\n");
+}
+
+TEST(Dv, PrintsAllItHoldsOnceItIsLinked)
+{
+  RecordingStorage storage = StorageWithFullDv();
+  AddRequiredCommands(storage);
+  storage.Command("FILTER_", "fine");
+  storage.Command("FILTER_", "coarse");
+  storage.Command("DV_", "left");
+  storage.Command("DV_", "right");
+  Gyre_Parfile parfile(storage);
+  parfile.Load();
+  EXPECT_EQ(LogRecordOf(parfile.GetDV_("porosity")).text,
+            "m_ID_NAME_: porosity\n"
+            "m_has_ELEMENT_GROUP_: yes\n"
+            "m_ELEMENT_GROUP_: duct\n"
+            "m_has_NODE_GROUP_: yes\n"
+            "m_NODE_GROUP_: wall_nodes\n"
+            "m_INITIAL_: 0.4\n"
+            "m_has_INITIAL_DV_FIELD_: yes\n"
+            "m_INITIAL_DV_FIELD_: start.csv\n"
+            "m_num_FILTER_: 2\n"
+            "m_FILTER_: [\nfine coarse ]\n"
+            "m_TYPE_: DENSITY\n"
+            "m_num_DV_: 2\n"
+            "m_DV_: [\nleft right ]\n");
+}
+
+TEST(Dv, ChecksItsGroupsAmongTheModelsGroupsOfTheirKind)
+{
+  const RecordingStorage storage = StorageWithFullDv();
+  DV_ command = Loaded(storage, "porosity");
+  OpenDatabase database;
+  database.Add(KLV_IdType::node_group, {"duct"});
+  database.Add(KLV_IdType::element_group, {"wall_nodes"});
+  EXPECT_THAT(ProblemsIn(command, storage, "porosity"),
+              ElementsAre(Problem{"duct", "ELEMENT_GROUP", "porosity", "DV"},
+                          Problem{"wall_nodes", "NODE_GROUP", "porosity", "DV"}));
+
+  database.Add(KLV_IdType::element_group, {"duct"});
+  database.Add(KLV_IdType::node_group, {"wall_nodes"});
+  EXPECT_THAT(ProblemsIn(command, storage, "porosity"), IsEmpty());
+  EXPECT_EQ(database.Map(KLV_IdType::element_group).LookupCount("duct"), 1U);
+  EXPECT_EQ(database.Map(KLV_IdType::node_group).LookupCount("wall_nodes"), 1U);
+}
+
+TEST(Dv, HasNothingToCheckWithoutGroups)
+{
+  const RecordingStorage storage = StorageWithSparseDv();
+  DV_ command = Loaded(storage, "bare");
+  EXPECT_THAT(ProblemsIn(command, storage, "bare"), IsEmpty());
+}
+
+TEST(Dv, RefusesAnIndexOutsideItsLists)
+{
+  const DV_ command;
+  EXPECT_EQ(FailureOf([&] { command.GetFILTER_(1); }),
+            (Failure{"Invalid index 1 of the parameterfile value FILTER_ to retrieve from DV_. Number of available "
+                     "values is 0.",
+                     "220653270608", "[%T|%n|%P|libxml2vtm|DV_] "}));
+  EXPECT_EQ(FailureOf([&] { command.GetDV_(1); }),
+            (Failure{"Invalid index 1 of the parameterfile value DV_ to retrieve from DV_. Number of available values "
+                     "is 0.",
+                     "220653270608", "[%T|%n|%P|libxml2vtm|DV_] "}));
+}
+
+TEST(Dv, GivesLinkedCommandsByPlacesCountedFromOne)
+{
+  RecordingStorage storage = StorageWithFullDv();
+  AddRequiredCommands(storage);
+  storage.Command("FILTER_", "fine");
+  storage.Command("FILTER_", "coarse");
+  storage.Command("DV_", "left");
+  storage.Command("DV_", "right");
+  Gyre_Parfile parfile(storage);
+  parfile.Load();
+  const DV_& command = parfile.GetDV_("porosity");
+  EXPECT_EQ(&command.GetFILTER_(1), &parfile.GetFILTER_("fine"));
+  EXPECT_EQ(&command.GetFILTER_(2), &parfile.GetFILTER_("coarse"));
+  EXPECT_EQ(&command.GetDV_(2), &parfile.GetDV_("right"));
+  EXPECT_EQ(FailureOf([&] { command.GetDV_(0); }).message,
+            "Invalid index 0 of the parameterfile value DV_ to retrieve from DV_. Number of available values is 2.");
+  EXPECT_EQ(FailureOf([&] { command.GetFILTER_(3); }).message,
+            "Invalid index 3 of the parameterfile value FILTER_ to retrieve from DV_. Number of available values is "
+            "2.");
+}
