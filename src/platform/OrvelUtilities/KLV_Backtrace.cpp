@@ -1,8 +1,11 @@
 #include "OrvelUtilities/KLV_Backtrace.h"
 
+#include <algorithm>
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <cstdlib>
+#include <iterator>
 #include <memory>
 
 #include <cxxabi.h>
@@ -14,7 +17,10 @@
 namespace
 {
 
-constexpr int max_frames = 128;
+constexpr std::ptrdiff_t max_frames = 128;
+
+// GetBacktrace itself, and the tools that may stand between it and backtrace (a sanitizer does).
+constexpr std::ptrdiff_t spare_frames = 4;
 
 // The name as it stands when it is no C++ name, as with `main` and functions of the C library.
 std::string Demangle(const char* symbol)
@@ -34,8 +40,11 @@ std::string DescribeFrame(
 
 std::string DescribeFrame(const void* address)
 {
+  // A return address can stand behind the end of a function whose last act is a call that does not return;
+  // the byte before it is always within the call.
+  const void* call = static_cast<const char*>(address) - 1;
   Dl_info info{};
-  if (dladdr(address, &info) == 0 || info.dli_fname == nullptr)
+  if (dladdr(call, &info) == 0 || info.dli_fname == nullptr)
   {
     return DescribeFrame("??", address, nullptr, "??");
   }
@@ -48,17 +57,20 @@ std::string DescribeFrame(const void* address)
 
 } // namespace
 
-// Kept out of line, so that exactly one frame of our own stands above the caller's.
+// Kept out of line, so that its return address is in the caller and shows where the caller's frames begin.
 [[gnu::noinline]] std::vector<std::string> KLV_Backtrace::GetBacktrace()
 {
-  constexpr int own_frames = 1;
-  std::array<void*, max_frames + own_frames> addresses{};
+  std::array<void*, max_frames + spare_frames> addresses{};
   const int count = backtrace(addresses.data(), static_cast<int>(addresses.size()));
+  const auto end = addresses.begin() + count;
+  auto begin = std::find(addresses.begin(), end, __builtin_return_address(0));
+  if (begin == end)
+  {
+    begin = addresses.begin();
+  }
 
   std::vector<std::string> frames;
-  for (int i = own_frames; i < count; ++i)
-  {
-    frames.push_back(DescribeFrame(addresses[static_cast<std::size_t>(i)]));
-  }
+  std::transform(begin, begin + std::min(max_frames, end - begin), std::back_inserter(frames),
+    [](const void* address) { return DescribeFrame(address); });
   return frames;
 }

@@ -22,7 +22,7 @@ public:
   /// Logs one message at the debug level.
   ///
   /// Without a sink of the caller's the record goes to the standard error stream, as the time, the level,
-  /// "source:line: ", the prefix as it stands and the text; a line feed at the text's end is not written twice.
+  /// "source:line: ", the prefix as it stands and the text; a line feed at its end is not written twice.
   ///
   /// Throws: what the sink throws; the log stays usable.
   /// Cost: copies the three texts and waits while another thread's record is being written.

@@ -1,0 +1,18 @@
+#include "exit_code.h"
+
+namespace
+{
+
+std::string JoinLines(const std::vector<std::string>& lines)
+{
+  std::string text;
+  for (const std::string& line : lines)
+  {
+    text += text.empty() ? line : "\n" + line;
+  }
+  return text;
+}
+
+}  // namespace
+
+FaultyInput::FaultyInput(const std::vector<std::string>& faults) : std::runtime_error(JoinLines(faults)) {}

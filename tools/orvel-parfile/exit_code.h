@@ -1,0 +1,29 @@
+/// \file
+/// How the tool ends.
+#pragma once
+
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+/// The exit codes of the tool.
+enum ExitCode
+{
+  exitGood = 0,
+  exitFaults = 1,    ///< The parameter file or job description has faults.
+  exitUnusable = 2,  ///< Wrong use, or an input that cannot be read.
+};
+
+/// An input that cannot be read at all. Ends the tool with exitUnusable.
+class UnusableInput : public std::runtime_error
+{
+public:
+  using std::runtime_error::runtime_error;
+};
+
+/// Faults of an input that can be read, a line for each. Ends the tool with exitFaults.
+class FaultyInput : public std::runtime_error
+{
+public:
+  explicit FaultyInput(const std::vector<std::string>& faults);
+};

@@ -1,0 +1,52 @@
+#include "exit_code.h"
+#include "inventory.h"
+#include "job_description.h"
+#include "parameter_file.h"
+#include "subcommands.h"
+
+#include <CLI/CLI.hpp>
+
+#include <iostream>
+#include <memory>
+
+namespace
+{
+
+struct Options
+{
+  std::string job;
+  std::string file = ".";
+  bool force = false;
+};
+
+void Import(const Options& options)
+{
+  const std::filesystem::path place = ParameterFilePath(options.file);
+  if (std::filesystem::exists(place) && !options.force)
+  {
+    throw UnusableInput(place.string() + " exists already; --force replaces it");
+  }
+  const std::vector<JobCommand> job = ReadJobDescription(options.job);
+  NewParameterFile file(place);
+  const std::vector<std::string> failures = file.Fill(job);
+  if (!failures.empty())
+  {
+    throw FaultyInput(failures);
+  }
+  const Inventory inventory = CountContents(*OpenParameterFile(file.Path()));
+  file.PutInPlace();
+  std::cout << "imported " << options.job << ": " << AsText(inventory) << "\n";
+}
+
+}  // namespace
+
+void AddImport(CLI::App& tool)
+{
+  const auto options = std::make_shared<Options>();
+  CLI::App* import = tool.add_subcommand("import", "Make a parameter file from a job description.");
+  import->add_option("job", options->job, "The job description, a TOML file")->required();
+  import->add_option("file", options->file, "The new parameter file or its folder")->capture_default_str();
+  import->add_flag("--force", options->force, "Replace a file that is there");
+  import->footer("Example: orvel-parfile import job.toml run/");
+  import->callback([options] { Import(*options); });
+}

@@ -1,0 +1,69 @@
+#include "exit_code.h"
+#include "subcommands.h"
+
+#include "OrvelCommands/foundation/KLV_Exception.h"
+
+#include <CLI/CLI.hpp>
+#include <H5Cpp.h>
+
+#include <iostream>
+
+namespace
+{
+
+int Report(const std::string& what, ExitCode code)
+{
+  std::cerr << what << "\n";
+  return code;
+}
+
+int Run(int argument_count, char** arguments)
+{
+  CLI::App tool("Parameter files of an optimization job: make them, check them, look into them.", "orvel-parfile");
+  tool.set_version_flag("--version", ORVEL_VERSION);
+  tool.require_subcommand(1);
+  AddImport(tool);
+  AddCheck(tool);
+  AddShow(tool);
+  try
+  {
+    tool.parse(argument_count, arguments);
+  }
+  catch (const CLI::ParseError& error)
+  {
+    return tool.exit(error) == 0 ? exitGood : exitUnusable;
+  }
+  return exitGood;
+}
+
+}  // namespace
+
+int main(int argument_count, char** arguments)
+{
+  // Our own text tells what happened; HDF5's report of forty lines would bury it.
+  H5::Exception::dontPrint();
+  try
+  {
+    return Run(argument_count, arguments);
+  }
+  catch (const UnusableInput& error)
+  {
+    return Report(error.what(), exitUnusable);
+  }
+  catch (const FaultyInput& error)
+  {
+    return Report(error.what(), exitFaults);
+  }
+  catch (const KLV_Exception& failure)
+  {
+    return Report(failure.GetMessage(), exitFaults);
+  }
+  catch (const H5::Exception& error)
+  {
+    return Report("HDF5 cannot work on the parameter file: " + error.getDetailMsg(), exitFaults);
+  }
+  catch (const std::exception& error)
+  {
+    return Report(error.what(), exitUnusable);
+  }
+}

@@ -1,0 +1,66 @@
+#include "model_ids.h"
+
+#include "exit_code.h"
+#include "nearest_name.h"
+#include "toml_input.h"
+
+#include <map>
+
+namespace
+{
+
+const std::map<std::string, KLV_IdType> kLists = {{"element_groups", KLV_IdType::element_group},
+                                                  {"node_groups", KLV_IdType::node_group},
+                                                  {"face_groups", KLV_IdType::face_group},
+                                                  {"coordinate_systems", KLV_IdType::coordinate_system}};
+
+std::vector<std::string> ListNames()
+{
+  std::vector<std::string> names;
+  for (const auto& [name, type] : kLists)
+  {
+    names.push_back(name);
+  }
+  return names;
+}
+
+}  // namespace
+
+std::size_t ReadModelIds(const std::filesystem::path& path, KLV_Database& database)
+{
+  std::vector<std::string> faults;
+  const auto fault = [&](const toml::node& node, const std::string& what) {
+    faults.push_back(PlaceText(path, node.source()) + ": " + what);
+  };
+  std::size_t count = 0;
+  const toml::table lists = ReadToml(path);
+  for (const auto& [key, node] : lists)
+  {
+    const std::string name(key.str());
+    const auto list = kLists.find(name);
+    if (list == kLists.end() || !node.is_array())
+    {
+      fault(node, list == kLists.end() ? "there is no list " + name + "; " + NearestName(name, ListNames())
+                                       : name + " must be an array of names");
+      continue;
+    }
+    KLV_IdMap& ids = database.GetIdMapsPool().GetIdMap(list->second);
+    for (const toml::node& id : *node.as_array())
+    {
+      if (const auto text = id.value_exact<std::string>())
+      {
+        ids.Add(*text);
+        ++count;
+      }
+      else
+      {
+        fault(id, name + " holds names, not " + NodeText(id));
+      }
+    }
+  }
+  if (!faults.empty())
+  {
+    throw FaultyInput(faults);
+  }
+  return count;
+}
