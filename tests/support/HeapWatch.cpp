@@ -9,9 +9,15 @@
 namespace
 {
 
+struct Block
+{
+  const void* address;
+  std::size_t size;
+};
+
 // Plain arrays: nothing here may allocate while a watch is on.
 constexpr std::size_t kCapacity = 20000;
-std::array<HeapBlock, kCapacity> s_living;
+std::array<Block, kCapacity> s_living;
 std::size_t s_num_living = 0;
 std::array<const void*, kCapacity> s_freed;
 std::size_t s_num_freed = 0;
@@ -52,8 +58,8 @@ void Free(void* block) noexcept
     {
       s_freed[s_num_freed++] = block;
     }
-    HeapBlock* const end = s_living.data() + s_num_living;
-    HeapBlock* const found = std::find_if(s_living.data(), end, [&](const HeapBlock& one) { return one.address == block; });
+    Block* const end = s_living.data() + s_num_living;
+    Block* const found = std::find_if(s_living.data(), end, [&](const Block& one) { return one.address == block; });
     if (found != end)
     {
       std::copy(found + 1, end, found);

@@ -8,13 +8,6 @@
 #include <cstddef>
 #include <vector>
 
-/// A block that was allocated with operator new.
-struct HeapBlock
-{
-  const void* address;
-  std::size_t size;
-};
-
 class HeapWatch
 {
 public:

@@ -1,19 +1,24 @@
 #include "OrvelCommands/commands/gyre_commands.h"
 #include "OrvelCommands/parfile/Gyre_Parfile.h"
 #include "support/CapturedLog.h"
-#include "support/RecordingStorage.h"
-#include "support/enumerators.h"
+#include "support/command_checks.h"
 #include "support/failures.h"
-#include "support/loaded_command.h"
-#include "support/required_commands.h"
+#include "support/RecordingStorage.h"
 
 #include <gmock/gmock.h>
 
 #include <type_traits>
+#include <utility>
 
 using testing::ElementsAre;
 using testing::IsEmpty;
-using testing::Pair;
+
+static_assert(std::is_same_v<decltype(std::declval<const AS_TOPO_OC_&>().GetBT_()), const double&>);
+static_assert(std::is_same_v<decltype(std::declval<const AS_TOPO_OC_&>().GetPATCH_ID_()), const std::string&>);
+static_assert(std::is_same_v<decltype(std::declval<const AS_TOPO_OC_&>().GetSCALING_CURVE_TYPE_()),
+                             const AS_TOPO_OC_::Enum_SCALING_CURVE_TYPE_&>);
+static_assert(sizeof(AS_TOPO_OC_::Enum_SCALING_CURVE_TYPE_) == 4);
+static_assert(std::is_base_of_v<OrvelCommand, AS_TOPO_OC_> && std::has_virtual_destructor_v<AS_TOPO_OC_>);
 
 namespace
 {
@@ -36,20 +41,19 @@ AS_TOPO_OC_ FullCommand()
 {
   RecordingStorage storage;
   AddFullCommand(storage);
-  return Loaded<AS_TOPO_OC_>(storage, "criteria");
+  return LoadedAlone<AS_TOPO_OC_>(storage, "criteria");
 }
 
-const char* const FULL_TEXT =
-  "m_ID_NAME_: criteria\n"
-  "m_PATCH_ID_: casing\n"
-  "m_BT_: 0.25\n"
-  "m_TA_MIN_: 0.001\n"
-  "m_TA_MAX_: 1.5\n"
-  "m_SCALING_CURVE_TYPE_: CONVEX\n"
-  "m_SCALING_CURVE_UPDATE_ID_: ramp\n"
-  "m_SCALING_CURVE_MIN_: -2\n"
-  "m_SCALING_CURVE_MAX_: 40\n"
-  "m_SCALING_CURVE_PENALISATION_: 3.5\n";
+const char* const FULL_TEXT = "m_ID_NAME_: criteria\n"
+                              "m_PATCH_ID_: casing\n"
+                              "m_BT_: 0.25\n"
+                              "m_TA_MIN_: 0.001\n"
+                              "m_TA_MAX_: 1.5\n"
+                              "m_SCALING_CURVE_TYPE_: CONVEX\n"
+                              "m_SCALING_CURVE_UPDATE_ID_: ramp\n"
+                              "m_SCALING_CURVE_MIN_: -2\n"
+                              "m_SCALING_CURVE_MAX_: 40\n"
+                              "m_SCALING_CURVE_PENALISATION_: 3.5\n";
 
 void ExpectDefaults(const AS_TOPO_OC_& command)
 {
@@ -106,7 +110,7 @@ TEST(AsTopoOc, LoadsAllItsKeysInOrderWithoutAskingForThem)
 {
   RecordingStorage storage;
   AddFullCommand(storage);
-  Loaded<AS_TOPO_OC_>(storage, "criteria");
+  LoadedAlone<AS_TOPO_OC_>(storage, "criteria");
   EXPECT_THAT(storage.Calls(),
               ElementsAre("GetValue(AS_TOPO_OC_, criteria, PATCH_ID_, 1, vtmString, string)",
                           "GetValue(AS_TOPO_OC_, criteria, BT_, 1, vtmDouble, double)",
@@ -124,7 +128,7 @@ TEST(AsTopoOc, KeepsItsDefaultsWhereTheStorageHasNoKeysAndGivesNoFailure)
   RecordingStorage storage;
   storage.KeepOutputsOfAbsentKeys();
   storage.Command("AS_TOPO_OC_", "bare");
-  const auto command = Loaded<AS_TOPO_OC_>(storage, "bare");
+  const auto command = LoadedAlone<AS_TOPO_OC_>(storage, "bare");
   EXPECT_EQ(command.GetID_NAME_(), "bare");
   ExpectDefaults(command);
   EXPECT_EQ(storage.Calls().size(), 9U);
@@ -155,16 +159,15 @@ TEST(AsTopoOc, ReadsTheCommandOfItsOwnKindWhereAnotherKindHasTheSameId)
   RecordingStorage storage;
   AddFullCommand(storage);
   storage.Command("AS_TOPO_SENS_", "criteria")["PATCH_ID_"] = {std::string("another")};
-  EXPECT_EQ(Loaded<AS_TOPO_OC_>(storage, "criteria").GetPATCH_ID_(), "casing");
+  EXPECT_EQ(LoadedAlone<AS_TOPO_OC_>(storage, "criteria").GetPATCH_ID_(), "casing");
 }
 
 TEST(AsTopoOc, NamesItsScalingCurves)
 {
-  EXPECT_EQ(AS_TOPO_OC_::SCALING_CURVE_TYPE_LINEAR, 73);
-  EXPECT_EQ(AS_TOPO_OC_::SCALING_CURVE_TYPE_LOG, 76);
-  EXPECT_EQ(AS_TOPO_OC_::SCALING_CURVE_TYPE_CONVEX, 88);
-  EXPECT_THAT((EnumeratorsOf<AS_TOPO_OC_, AS_TOPO_OC_::Enum_SCALING_CURVE_TYPE_>()),
-              ElementsAre(Pair(73, "LINEAR"), Pair(76, "LOG"), Pair(88, "CONVEX")));
+  ExpectEnumerators<AS_TOPO_OC_, AS_TOPO_OC_::Enum_SCALING_CURVE_TYPE_>(
+    {{AS_TOPO_OC_::SCALING_CURVE_TYPE_LINEAR, 73, "LINEAR"},
+     {AS_TOPO_OC_::SCALING_CURVE_TYPE_LOG, 76, "LOG"},
+     {AS_TOPO_OC_::SCALING_CURVE_TYPE_CONVEX, 88, "CONVEX"}});
 }
 
 TEST(AsTopoOc, KeepsANumberThatIsNoEnumerator)
@@ -172,7 +175,7 @@ TEST(AsTopoOc, KeepsANumberThatIsNoEnumerator)
   RecordingStorage storage;
   AddFullCommand(storage);
   storage.Command("AS_TOPO_OC_", "criteria")["SCALING_CURVE_TYPE_"] = {-7};
-  EXPECT_EQ(Loaded<AS_TOPO_OC_>(storage, "criteria").GetSCALING_CURVE_TYPE_(), -7);
+  EXPECT_EQ(LoadedAlone<AS_TOPO_OC_>(storage, "criteria").GetSCALING_CURVE_TYPE_(), -7);
 }
 
 TEST(AsTopoOc, KnowsNoHeavysideThoughAScalingCurveCommandDoes)
@@ -180,7 +183,7 @@ TEST(AsTopoOc, KnowsNoHeavysideThoughAScalingCurveCommandDoes)
   RecordingStorage storage;
   AddFullCommand(storage);
   storage.Command("AS_TOPO_OC_", "criteria")["SCALING_CURVE_TYPE_"] = {72};
-  EXPECT_THAT(LogRecordOf(Loaded<AS_TOPO_OC_>(storage, "criteria")).text,
+  EXPECT_THAT(LogRecordOf(LoadedAlone<AS_TOPO_OC_>(storage, "criteria")).text,
               testing::HasSubstr("\nm_SCALING_CURVE_TYPE_: INVALID\n"));
 }
 
@@ -190,17 +193,16 @@ TEST(AsTopoOc, PrintsItsDefaults)
   EXPECT_EQ(record.source, "LocalGenerated\\win_b64\\gyre_commands");
   EXPECT_EQ(record.line, 4699);
   EXPECT_EQ(record.prefix, "[%T|%n|%P|OrvelCommands|AS_TOPO_OC_] ");
-  EXPECT_EQ(record.text,
-            "m_ID_NAME_: \n"
-            "m_PATCH_ID_: \n"
-            "m_BT_: 0\n"
-            "m_TA_MIN_: 0\n"
-            "m_TA_MAX_: 0\n"
-            "m_SCALING_CURVE_TYPE_: INVALID\n"
-            "m_SCALING_CURVE_UPDATE_ID_: \n"
-            "m_SCALING_CURVE_MIN_: 0\n"
-            "m_SCALING_CURVE_MAX_: 0\n"
-            "m_SCALING_CURVE_PENALISATION_: 0\n");
+  EXPECT_EQ(record.text, "m_ID_NAME_: \n"
+                         "m_PATCH_ID_: \n"
+                         "m_BT_: 0\n"
+                         "m_TA_MIN_: 0\n"
+                         "m_TA_MAX_: 0\n"
+                         "m_SCALING_CURVE_TYPE_: INVALID\n"
+                         "m_SCALING_CURVE_UPDATE_ID_: \n"
+                         "m_SCALING_CURVE_MIN_: 0\n"
+                         "m_SCALING_CURVE_MAX_: 0\n"
+                         "m_SCALING_CURVE_PENALISATION_: 0\n");
 }
 
 TEST(AsTopoOc, PrintsAllItHoldsWithinAJob)
@@ -222,7 +224,7 @@ TEST(AsTopoOc, TakesAPercentSignInAValueAsAConversion)
   RecordingStorage storage;
   storage.KeepOutputsOfAbsentKeys();
   storage.Command("AS_TOPO_OC_", "a%%b")["PATCH_ID_"] = {std::string("<%s>")};
-  EXPECT_THAT(LogRecordOf(Loaded<AS_TOPO_OC_>(storage, "a%%b")).text,
+  EXPECT_THAT(LogRecordOf(LoadedAlone<AS_TOPO_OC_>(storage, "a%%b")).text,
               testing::StartsWith("m_ID_NAME_: a%b\nm_PATCH_ID_: <>\nm_BT_: 0\n"));
 }
 
@@ -231,7 +233,7 @@ TEST(AsTopoOc, PrintsJustTheFirst1023CharactersOfALongText)
   RecordingStorage storage;
   AddFullCommand(storage);
   storage.Command("AS_TOPO_OC_", "criteria")["PATCH_ID_"] = {std::string(2000, 'p')};
-  EXPECT_EQ(LogRecordOf(Loaded<AS_TOPO_OC_>(storage, "criteria")).text,
+  EXPECT_EQ(LogRecordOf(LoadedAlone<AS_TOPO_OC_>(storage, "criteria")).text,
             "m_ID_NAME_: criteria\nm_PATCH_ID_: " + std::string(989, 'p'));
 }
 
@@ -239,7 +241,7 @@ TEST(AsTopoOc, HasNoModelIdsToCheck)
 {
   RecordingStorage storage;
   AddFullCommand(storage);
-  auto command = Loaded<AS_TOPO_OC_>(storage, "criteria");
+  auto command = LoadedAlone<AS_TOPO_OC_>(storage, "criteria");
   storage.ForgetCalls();
   EXPECT_THAT(ProblemsIn(command, storage, "criteria"), IsEmpty());
   EXPECT_THAT(storage.Calls(), IsEmpty());
@@ -266,16 +268,4 @@ TEST(AsTopoOc, IsAssignedEveryMemberAndSurvivesAssignmentToItself)
   other = AS_TOPO_OC_();
   EXPECT_EQ(other.GetID_NAME_(), "");
   ExpectDefaults(other);
-}
-
-TEST(AsTopoOc, GivesReferencesToItsMembers)
-{
-  static_assert(std::is_same_v<decltype(std::declval<const AS_TOPO_OC_&>().GetBT_()), const double&>);
-  static_assert(std::is_same_v<decltype(std::declval<const AS_TOPO_OC_&>().GetPATCH_ID_()), const std::string&>);
-  static_assert(std::is_same_v<decltype(std::declval<const AS_TOPO_OC_&>().GetSCALING_CURVE_TYPE_()),
-                               const AS_TOPO_OC_::Enum_SCALING_CURVE_TYPE_&>);
-  static_assert(sizeof(AS_TOPO_OC_::Enum_SCALING_CURVE_TYPE_) == 4);
-  static_assert(std::has_virtual_destructor_v<AS_TOPO_OC_>);
-  const AS_TOPO_OC_ command = FullCommand();
-  EXPECT_EQ(&command.GetTA_MAX_(), &command.GetTA_MAX_());
 }

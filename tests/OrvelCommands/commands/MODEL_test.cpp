@@ -75,7 +75,6 @@ TEST(Model, HandsOutItsTextsWithoutCopyingThem)
   StaticAssertTypeEq<const std::string&, decltype(command.GetFILE_())>();
   StaticAssertTypeEq<bool, decltype(command.HasSOLVER_())>();
   StaticAssertTypeEq<const std::string&, decltype(command.GetSOLVER_())>();
-  EXPECT_EQ(&command.GetFILE_(), &command.GetFILE_());
 }
 
 TEST(Model, LoadsItsKeysInOrder)

@@ -1,0 +1,49 @@
+/// \file
+/// Tests that would leave traces in their process, such as a file that stays open. POSIX only.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <cstdlib>
+
+namespace child_process
+{
+
+/// Runs \p action and ends the process without running destructors of statics: with 0 when no expectation failed and
+/// nothing was thrown, else with 1 and the failed expectations on standard error.
+template <class Action>
+[[noreturn]] void RunAndExit(Action action)
+{
+  try
+  {
+    action();
+  }
+  catch (const std::exception& error)
+  {
+    ADD_FAILURE() << "thrown: " << error.what();
+  }
+  catch (...)
+  {
+    ADD_FAILURE() << "something else than a std::exception was thrown";
+  }
+  const testing::TestResult& result = *testing::UnitTest::GetInstance()->current_test_info()->result();
+  for (int i = 0; i < result.total_part_count(); ++i)
+  {
+    const testing::TestPartResult& part = result.GetTestPartResult(i);
+    if (part.failed())
+    {
+      std::fprintf(stderr, "%s:%d: %s\n", part.file_name(), part.line_number(), part.message());
+    }
+  }
+  std::_Exit(result.Passed() ? EXIT_SUCCESS : EXIT_FAILURE);
+}
+
+}  // namespace child_process
+
+/// Runs \p action, which may hold expectations, in a copy of this process; they all have to hold there.
+template <class Action>
+void InAProcessOfItsOwn(Action action)
+{
+  EXPECT_EXIT(child_process::RunAndExit(action), testing::ExitedWithCode(EXIT_SUCCESS), "");
+}
