@@ -6,6 +6,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <exception>
 
 namespace child_process
 {
@@ -15,6 +16,8 @@ namespace child_process
 template <class Action>
 [[noreturn]] void RunAndExit(Action action)
 {
+  const testing::TestResult& result = *testing::UnitTest::GetInstance()->current_test_info()->result();
+  const int first_part = result.total_part_count();
   try
   {
     action();
@@ -27,23 +30,25 @@ template <class Action>
   {
     ADD_FAILURE() << "something else than a std::exception was thrown";
   }
-  const testing::TestResult& result = *testing::UnitTest::GetInstance()->current_test_info()->result();
-  for (int i = 0; i < result.total_part_count(); ++i)
+  int status = EXIT_SUCCESS;
+  for (int i = first_part; i < result.total_part_count(); ++i)
   {
     const testing::TestPartResult& part = result.GetTestPartResult(i);
     if (part.failed())
     {
       std::fprintf(stderr, "%s:%d: %s\n", part.file_name(), part.line_number(), part.message());
+      status = EXIT_FAILURE;
     }
   }
-  std::_Exit(result.Passed() ? EXIT_SUCCESS : EXIT_FAILURE);
+  std::_Exit(status);
 }
 
 }  // namespace child_process
 
-/// Runs \p action, which may hold expectations, in a copy of this process; they all have to hold there.
+/// Runs \p action, which may hold expectations, in a copy of this process; they all have to hold there, and its
+/// standard error has to match the regular expression \p report.
 template <class Action>
-void InAProcessOfItsOwn(Action action)
+void InAProcessOfItsOwn(Action action, const char* report = "")
 {
-  EXPECT_EXIT(child_process::RunAndExit(action), testing::ExitedWithCode(EXIT_SUCCESS), "");
+  EXPECT_EXIT(child_process::RunAndExit(action), testing::ExitedWithCode(EXIT_SUCCESS), report);
 }

@@ -27,8 +27,8 @@ Command LoadedAlone(const RecordingStorage& storage, const std::string& id)
   return command;
 }
 
-/// A fluid job around the commands of \p storage: what a job needs besides is added, and all of it is loaded and
-/// linked.
+/// A fluid job around the commands of a storage: what a job needs besides is added, and all of it is loaded
+/// and linked.
 class LinkedJob
 {
 public:
@@ -82,8 +82,8 @@ std::vector<std::string> MessagesIn(Command& command, const RecordingStorage& st
   return messages;
 }
 
-/// The numbers of the kinds of name in which \p command looks for \p name: each kind in turn is the only one of the
-/// model that knows the name.
+/// The numbers of the kinds of name in which \p command looks for \p name: each kind in turn is the only one
+/// of the model that knows the name.
 template <class Command>
 std::vector<int> KindsThatSatisfy(Command& command, const RecordingStorage& storage, const std::string& id,
                                   const char* name)

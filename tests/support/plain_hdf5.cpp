@@ -77,6 +77,18 @@ std::int64_t NumOpen(unsigned kinds)
   return Checked(H5Fget_obj_count(static_cast<hid_t>(H5F_OBJ_ALL), kinds), "count what is open");
 }
 
+// Not held by the caller.
+hid_t TheOpenFile()
+{
+  hid_t file = H5I_INVALID_HID;
+  if (NumOpen(H5F_OBJ_FILE) != 1 ||
+      H5Fget_obj_ids(static_cast<hid_t>(H5F_OBJ_ALL), H5F_OBJ_FILE, 1, &file) != 1)
+  {
+    throw std::runtime_error("not one file is open");
+  }
+  return file;
+}
+
 template <class Item>
 std::vector<Item> SequenceAt(const std::string& path, hsize_t index, hid_t item_type)
 {
@@ -180,14 +192,14 @@ std::int64_t NumOpenTypes()
   return NumOpen(H5F_OBJ_DATATYPE);
 }
 
+int NumHoldersOfTheOpenFile()
+{
+  return Checked(H5Iget_ref(TheOpenFile()), "count the holders of the open file");
+}
+
 ChunkCache ChunkCacheOfTheOpenFile()
 {
-  hid_t file = H5I_INVALID_HID;
-  if (Checked(H5Fget_obj_ids(static_cast<hid_t>(H5F_OBJ_ALL), H5F_OBJ_FILE, 1, &file), "find the open file") != 1)
-  {
-    throw std::runtime_error("no file is open");
-  }
-  const Id list{H5Fget_access_plist(file), H5Pclose, "get the access list"};
+  const Id list{H5Fget_access_plist(TheOpenFile()), H5Pclose, "get the access list"};
   ChunkCache cache{};
   Checked(H5Pget_cache(list, nullptr, &cache.slots, &cache.bytes, &cache.preemption), "get the cache");
   return cache;

@@ -59,6 +59,10 @@ std::int64_t NumOpenFiles();
 /// something.
 std::int64_t NumOpenTypes();
 
+/// How often the one open file is held through its identifier.
+/// Requires: one open file.
+int NumHoldersOfTheOpenFile();
+
 /// The cache for chunks with which a file was opened.
 struct ChunkCache
 {

@@ -129,6 +129,28 @@ void RequireMovable(VtmType type, const FailureText& failure)
   }
 }
 
+// The name of the link in a kind's group that leads to the object, if there is one: one pass that opens no member.
+bool FindLinkTo(const H5::Group& parfile, const std::string& kind, hobj_ref_t object, std::string& name)
+{
+  struct Search
+  {
+    hobj_ref_t object;
+    std::string& name;
+  } search{object, name};
+  const auto leads_to = [](hid_t, const char* member, const H5L_info_t* link, void* data) -> herr_t {
+    auto& wanted = *static_cast<Search*>(data);
+    if (link->type != H5L_TYPE_HARD || link->u.address != wanted.object)
+    {
+      return 0;
+    }
+    wanted.name = member;
+    return 1;
+  };
+  hsize_t start = 0;
+  return H5Literate_by_name(parfile.getId(), kind.c_str(), H5_INDEX_NAME, H5_ITER_INC, &start, leads_to, &search,
+                            H5P_DEFAULT) > 0;
+}
+
 std::string PathOf(const H5::Group& group)
 {
   const ssize_t length = H5Iget_name(group.getId(), nullptr, 0);
@@ -264,8 +286,13 @@ void ParfileHdf5Storage::GetReference(const std::string& command, const std::str
     }
     H5::Group target;
     target.dereference(dataset, &reference, H5R_OBJECT);
-    const std::string path = PathOf(target);
-    target_id_name = path.substr(path.rfind('/') + 1);
+    // Asked for the path of a dereferenced group, HDF5 searches the whole file. A key bears the name of the kind that
+    // it refers to, so a look at that kind's links finds nearly every name first.
+    if (!HasGroupOrSet(m_parfile_group, key) || !FindLinkTo(m_parfile_group, key, reference, target_id_name))
+    {
+      const std::string path = PathOf(target);
+      target_id_name = path.substr(path.rfind('/') + 1);
+    }
   });
 }
 

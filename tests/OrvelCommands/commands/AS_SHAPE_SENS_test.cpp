@@ -4,6 +4,7 @@
 #include "support/command_checks.h"
 #include "support/failures.h"
 #include "support/RecordingStorage.h"
+#include "support/required_commands.h"
 
 #include <gmock/gmock.h>
 
@@ -420,6 +421,19 @@ TEST(AsShapeSens, EndsTheLoadOfAJobThatLacksOneOfItsFilters)
   Gyre_Parfile parfile(storage);
   EXPECT_EQ(FailureOf([&] { parfile.Load(); }), (Failure{"Invalid ID coarse of the parameter file command FILTER_",
                                                          "161700240908", "[%T|%n|%P|OrvelCommands|Gyre_Parfile] "}));
+}
+
+TEST(AsShapeSens, IsLinkedBeforeALaterOneFailsAndNotAfterIt)
+{
+  RecordingStorage storage = FullJob();
+  storage.Command("AS_SHAPE_SENS_", "wrong")["FILTER_"] = {Ref{"fine"}, Ref{"missing"}};
+  storage.Command("AS_SHAPE_SENS_", "late")["FILTER_"] = {Ref{"fine"}};
+  Gyre_Parfile parfile(storage);
+  EXPECT_EQ(FailureOf([&] { parfile.Load(); }).message, "Invalid ID missing of the parameter file command FILTER_");
+  EXPECT_EQ(parfile.GetAS_SHAPE_SENS_("morphing").NumFILTER_(), 3U);
+  EXPECT_EQ(parfile.GetAS_SHAPE_SENS_("morphing").GetFILTER_().size(), 3U);
+  EXPECT_EQ(parfile.GetAS_SHAPE_SENS_("late").NumFILTER_(), 0U);
+  EXPECT_THAT(parfile.GetAS_SHAPE_SENS_("late").GetFILTER_(), IsEmpty());
 }
 
 TEST(AsShapeSens, TakesTheEarlierOfTwoFiltersWithOneId)

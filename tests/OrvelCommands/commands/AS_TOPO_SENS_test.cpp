@@ -4,6 +4,7 @@
 #include "support/command_checks.h"
 #include "support/failures.h"
 #include "support/RecordingStorage.h"
+#include "support/required_commands.h"
 
 #include <gmock/gmock.h>
 

@@ -12,7 +12,9 @@
 #include <type_traits>
 
 using testing::ElementsAre;
+using testing::HasSubstr;
 using testing::IsEmpty;
+using testing::StartsWith;
 
 static_assert(kReturn<CS_, const std::string&, &CS_::GetType, &CS_::GetID_NAME_>);
 static_assert(kReturn<CS_, const CS_::Enum_TYPE_&, &CS_::GetTYPE_>);
@@ -216,8 +218,8 @@ TEST(Cs, LoadsVectorsThatAreAllZero)
   RecordingStorage storage;
   auto& keys = storage.Command("CS_", "flat");
   keys["TYPE_"] = {82};
-  for (const char* key : {"X_VEC1_", "Y_VEC1_", "Z_VEC1_", "X_VEC2_", "Y_VEC2_", "Z_VEC2_", "X_VEC3_", "Y_VEC3_",
-                          "Z_VEC3_"})
+  for (const char* key :
+       {"X_VEC1_", "Y_VEC1_", "Z_VEC1_", "X_VEC2_", "Y_VEC2_", "Z_VEC2_", "X_VEC3_", "Y_VEC3_", "Z_VEC3_"})
   {
     keys[key] = {0.0};
   }
@@ -233,7 +235,7 @@ TEST(Cs, KeepsATypeThatIsNoEnumerator)
   storage.Command("CS_", "axis")["TYPE_"] = {-7};
   const CS_ command = LoadedAlone<CS_>(storage, "axis");
   EXPECT_EQ(command.GetTYPE_(), -7);
-  EXPECT_THAT(LogRecordOf(command).text, testing::HasSubstr("m_TYPE_: INVALID\n"));
+  EXPECT_THAT(LogRecordOf(command).text, HasSubstr("m_TYPE_: INVALID\n"));
 }
 
 TEST(Cs, KeepsTheEarlierOriginInASecondLoadWithoutOne)
@@ -252,7 +254,7 @@ TEST(Cs, KeepsTheDefaultsOfAbsentVectorsOnAStorageThatLeavesOutputsAlone)
   RecordingStorage storage;
   storage.KeepOutputsOfAbsentKeys();
   storage.Command("CS_", "empty");
-  CS_ command = LoadedAlone<CS_>(storage, "empty");
+  const CS_ command = LoadedAlone<CS_>(storage, "empty");
   EXPECT_EQ(command.GetID_NAME_(), "empty");
   EXPECT_EQ(command.GetTYPE_(), 0);
   EXPECT_EQ(command.GetX_VEC1_(), 0.0);
@@ -325,7 +327,7 @@ TEST(Cs, PrintsAPercentSignInItsIdAsAConversion)
 {
   const CS_ command = LoadedAlone<CS_>(StorageWithSparseCs("axis%d"), "axis%d");
   EXPECT_EQ(command.GetID_NAME_(), "axis%d");
-  EXPECT_THAT(LogRecordOf(command).text, testing::StartsWith("m_ID_NAME_: axis0\nm_TYPE_: CYLINDRICAL\n"));
+  EXPECT_THAT(LogRecordOf(command).text, StartsWith("m_ID_NAME_: axis0\nm_TYPE_: CYLINDRICAL\n"));
 }
 
 TEST(Cs, HasNothingToCheckInTheModel)
@@ -347,9 +349,9 @@ TEST(Cs, CopiesItsValues)
 
 TEST(Cs, TakesAllValuesOfAnotherOne)
 {
-  static_assert(std::is_same_v<CS_&, decltype(std::declval<CS_&>() = std::declval<const CS_&>())>);
   const CS_ full = FullCs();
   CS_ command;
+  static_assert(std::is_same_v<CS_&, decltype(command = full)>);
   EXPECT_EQ(&(command = full), &command);
   ExpectFull(command);
   command = CS_();

@@ -3,6 +3,7 @@
 #include "support/CapturedLog.h"
 #include "support/OpenDatabase.h"
 #include "support/RecordingStorage.h"
+#include "support/accessor_types.h"
 #include "support/command_checks.h"
 #include "support/failures.h"
 #include "support/required_commands.h"
@@ -13,7 +14,6 @@
 
 using testing::ElementsAre;
 using testing::IsEmpty;
-using testing::StaticAssertTypeEq;
 
 namespace
 {
@@ -165,86 +165,74 @@ TEST(Dresp, IsEmptyBeforeItIsLoaded)
 
 TEST(Dresp, HandsOutItsValuesWithoutCopyingThem)
 {
-  const DRESP_ command;
-  StaticAssertTypeEq<const DRESP_::Enum_TYPE_&, decltype(command.GetTYPE_())>();
-  StaticAssertTypeEq<const DRESP_::Enum_UPDATE_TYPE_&, decltype(command.GetUPDATE_TYPE_())>();
-  StaticAssertTypeEq<const std::string&, decltype(command.GetUPDATE_ID_())>();
-  StaticAssertTypeEq<const int&, decltype(command.GetUPDATE_INDEX_())>();
-  StaticAssertTypeEq<bool, decltype(command.HasFACE_GROUP_())>();
-  StaticAssertTypeEq<const std::string&, decltype(command.GetFACE_GROUP_())>();
-  StaticAssertTypeEq<bool, decltype(command.HasFACE_GROUP_ADD_())>();
-  StaticAssertTypeEq<const std::string&, decltype(command.GetFACE_GROUP_ADD_())>();
-  StaticAssertTypeEq<bool, decltype(command.HasELEMENT_GROUP_())>();
-  StaticAssertTypeEq<const std::string&, decltype(command.GetELEMENT_GROUP_())>();
-  StaticAssertTypeEq<bool, decltype(command.HasNODE_GROUP_())>();
-  StaticAssertTypeEq<const std::string&, decltype(command.GetNODE_GROUP_())>();
-  StaticAssertTypeEq<const int&, decltype(command.GetWRITE_INTERVAL_())>();
-  StaticAssertTypeEq<const int&, decltype(command.GetLOADCASE_())>();
-  StaticAssertTypeEq<const int&, decltype(command.GetITER_MAX_())>();
-  StaticAssertTypeEq<const int&, decltype(command.GetITER_MIN_())>();
-  StaticAssertTypeEq<const double&, decltype(command.GetRESIDUAL_())>();
-  StaticAssertTypeEq<const double&, decltype(command.GetADJOINT_RESIDUAL_())>();
-  StaticAssertTypeEq<const double&, decltype(command.GetADJOINT_DEVIATION_())>();
-  StaticAssertTypeEq<const double&, decltype(command.GetOBJECTIVE_DEVIATION_())>();
-  StaticAssertTypeEq<bool, decltype(command.HasDV_CONSTRAINT_())>();
-  StaticAssertTypeEq<const DV_CONSTRAINT_&, decltype(command.GetDV_CONSTRAINT_())>();
-  StaticAssertTypeEq<bool, decltype(command.HasFILE_())>();
-  StaticAssertTypeEq<const std::string&, decltype(command.GetFILE_())>();
-  StaticAssertTypeEq<bool, decltype(command.HasCS_REF_())>();
-  StaticAssertTypeEq<const std::string&, decltype(command.GetCS_REF_())>();
+  static_assert(kReturn<DRESP_, const DRESP_::Enum_TYPE_&, &DRESP_::GetTYPE_>);
+  static_assert(kReturn<DRESP_, const DRESP_::Enum_UPDATE_TYPE_&, &DRESP_::GetUPDATE_TYPE_>);
+  static_assert(kReturn<DRESP_, const std::string&, &DRESP_::GetUPDATE_ID_, &DRESP_::GetFACE_GROUP_,
+                        &DRESP_::GetFACE_GROUP_ADD_, &DRESP_::GetELEMENT_GROUP_, &DRESP_::GetNODE_GROUP_,
+                        &DRESP_::GetFILE_, &DRESP_::GetCS_REF_>);
+  static_assert(kReturn<DRESP_, const int&, &DRESP_::GetUPDATE_INDEX_, &DRESP_::GetWRITE_INTERVAL_,
+                        &DRESP_::GetLOADCASE_, &DRESP_::GetITER_MAX_, &DRESP_::GetITER_MIN_>);
+  static_assert(kReturn<DRESP_, const double&, &DRESP_::GetRESIDUAL_, &DRESP_::GetADJOINT_RESIDUAL_,
+                        &DRESP_::GetADJOINT_DEVIATION_, &DRESP_::GetOBJECTIVE_DEVIATION_>);
+  static_assert(kReturn<DRESP_, const DV_CONSTRAINT_&, &DRESP_::GetDV_CONSTRAINT_>);
+  static_assert(kReturn<DRESP_, bool, &DRESP_::HasFACE_GROUP_, &DRESP_::HasFACE_GROUP_ADD_,
+                        &DRESP_::HasELEMENT_GROUP_, &DRESP_::HasNODE_GROUP_, &DRESP_::HasDV_CONSTRAINT_,
+                        &DRESP_::HasFILE_, &DRESP_::HasCS_REF_>);
 }
 
 TEST(Dresp, LoadsItsKeysInOrderAndLeavesTheReferenceAlone)
 {
   const RecordingStorage storage = StorageWithFullDresp();
   LoadedAlone<DRESP_>(storage, "drop");
-  EXPECT_THAT(storage.Calls(), ElementsAre("GetEnumValue(DRESP_, drop, TYPE_, 1, vtmEnum)",
-                                           "GetEnumValue(DRESP_, drop, UPDATE_TYPE_, 1, vtmEnum)",
-                                           "GetValue(DRESP_, drop, UPDATE_ID_, 1, vtmString, string)",
-                                           "GetValue(DRESP_, drop, UPDATE_INDEX_, 1, vtmInteger, int)",
-                                           "HasElement(DRESP_, drop, FACE_GROUP_)",
-                                           "GetValue(DRESP_, drop, FACE_GROUP_, 1, vtmModelId, string)",
-                                           "HasElement(DRESP_, drop, FACE_GROUP_ADD_)",
-                                           "GetValue(DRESP_, drop, FACE_GROUP_ADD_, 1, vtmModelId, string)",
-                                           "HasElement(DRESP_, drop, ELEMENT_GROUP_)",
-                                           "GetValue(DRESP_, drop, ELEMENT_GROUP_, 1, vtmModelId, string)",
-                                           "HasElement(DRESP_, drop, NODE_GROUP_)",
-                                           "GetValue(DRESP_, drop, NODE_GROUP_, 1, vtmModelId, string)",
-                                           "GetValue(DRESP_, drop, WRITE_INTERVAL_, 1, vtmInteger, int)",
-                                           "GetValue(DRESP_, drop, LOADCASE_, 1, vtmInteger, int)",
-                                           "GetValue(DRESP_, drop, ITER_MAX_, 1, vtmInteger, int)",
-                                           "GetValue(DRESP_, drop, ITER_MIN_, 1, vtmInteger, int)",
-                                           "GetValue(DRESP_, drop, RESIDUAL_, 1, vtmDouble, double)",
-                                           "GetValue(DRESP_, drop, ADJOINT_RESIDUAL_, 1, vtmDouble, double)",
-                                           "GetValue(DRESP_, drop, ADJOINT_DEVIATION_, 1, vtmDouble, double)",
-                                           "GetValue(DRESP_, drop, OBJECTIVE_DEVIATION_, 1, vtmDouble, double)",
-                                           "HasElement(DRESP_, drop, FILE_)",
-                                           "GetValue(DRESP_, drop, FILE_, 1, vtmString, string)",
-                                           "HasElement(DRESP_, drop, CS_REF_)",
-                                           "GetValue(DRESP_, drop, CS_REF_, 1, vtmModelId, string)"));
+  EXPECT_THAT(storage.Calls(),
+              ElementsAre("GetEnumValue(DRESP_, drop, TYPE_, 1, vtmEnum)",
+                          "GetEnumValue(DRESP_, drop, UPDATE_TYPE_, 1, vtmEnum)",
+                          "GetValue(DRESP_, drop, UPDATE_ID_, 1, vtmString, string)",
+                          "GetValue(DRESP_, drop, UPDATE_INDEX_, 1, vtmInteger, int)",
+                          "HasElement(DRESP_, drop, FACE_GROUP_)",
+                          "GetValue(DRESP_, drop, FACE_GROUP_, 1, vtmModelId, string)",
+                          "HasElement(DRESP_, drop, FACE_GROUP_ADD_)",
+                          "GetValue(DRESP_, drop, FACE_GROUP_ADD_, 1, vtmModelId, string)",
+                          "HasElement(DRESP_, drop, ELEMENT_GROUP_)",
+                          "GetValue(DRESP_, drop, ELEMENT_GROUP_, 1, vtmModelId, string)",
+                          "HasElement(DRESP_, drop, NODE_GROUP_)",
+                          "GetValue(DRESP_, drop, NODE_GROUP_, 1, vtmModelId, string)",
+                          "GetValue(DRESP_, drop, WRITE_INTERVAL_, 1, vtmInteger, int)",
+                          "GetValue(DRESP_, drop, LOADCASE_, 1, vtmInteger, int)",
+                          "GetValue(DRESP_, drop, ITER_MAX_, 1, vtmInteger, int)",
+                          "GetValue(DRESP_, drop, ITER_MIN_, 1, vtmInteger, int)",
+                          "GetValue(DRESP_, drop, RESIDUAL_, 1, vtmDouble, double)",
+                          "GetValue(DRESP_, drop, ADJOINT_RESIDUAL_, 1, vtmDouble, double)",
+                          "GetValue(DRESP_, drop, ADJOINT_DEVIATION_, 1, vtmDouble, double)",
+                          "GetValue(DRESP_, drop, OBJECTIVE_DEVIATION_, 1, vtmDouble, double)",
+                          "HasElement(DRESP_, drop, FILE_)",
+                          "GetValue(DRESP_, drop, FILE_, 1, vtmString, string)",
+                          "HasElement(DRESP_, drop, CS_REF_)",
+                          "GetValue(DRESP_, drop, CS_REF_, 1, vtmModelId, string)"));
 }
 
 TEST(Dresp, DoesNotReadOptionalKeysThatAreAbsent)
 {
   const RecordingStorage storage = StorageWithBareDresp();
   LoadedAlone<DRESP_>(storage, "bare");
-  EXPECT_THAT(storage.Calls(), ElementsAre("GetEnumValue(DRESP_, bare, TYPE_, 1, vtmEnum)",
-                                           "GetEnumValue(DRESP_, bare, UPDATE_TYPE_, 1, vtmEnum)",
-                                           "GetValue(DRESP_, bare, UPDATE_ID_, 1, vtmString, string)",
-                                           "GetValue(DRESP_, bare, UPDATE_INDEX_, 1, vtmInteger, int)",
-                                           "HasElement(DRESP_, bare, FACE_GROUP_)",
-                                           "HasElement(DRESP_, bare, FACE_GROUP_ADD_)",
-                                           "HasElement(DRESP_, bare, ELEMENT_GROUP_)",
-                                           "HasElement(DRESP_, bare, NODE_GROUP_)",
-                                           "GetValue(DRESP_, bare, WRITE_INTERVAL_, 1, vtmInteger, int)",
-                                           "GetValue(DRESP_, bare, LOADCASE_, 1, vtmInteger, int)",
-                                           "GetValue(DRESP_, bare, ITER_MAX_, 1, vtmInteger, int)",
-                                           "GetValue(DRESP_, bare, ITER_MIN_, 1, vtmInteger, int)",
-                                           "GetValue(DRESP_, bare, RESIDUAL_, 1, vtmDouble, double)",
-                                           "GetValue(DRESP_, bare, ADJOINT_RESIDUAL_, 1, vtmDouble, double)",
-                                           "GetValue(DRESP_, bare, ADJOINT_DEVIATION_, 1, vtmDouble, double)",
-                                           "GetValue(DRESP_, bare, OBJECTIVE_DEVIATION_, 1, vtmDouble, double)",
-                                           "HasElement(DRESP_, bare, FILE_)", "HasElement(DRESP_, bare, CS_REF_)"));
+  EXPECT_THAT(storage.Calls(),
+              ElementsAre("GetEnumValue(DRESP_, bare, TYPE_, 1, vtmEnum)",
+                          "GetEnumValue(DRESP_, bare, UPDATE_TYPE_, 1, vtmEnum)",
+                          "GetValue(DRESP_, bare, UPDATE_ID_, 1, vtmString, string)",
+                          "GetValue(DRESP_, bare, UPDATE_INDEX_, 1, vtmInteger, int)",
+                          "HasElement(DRESP_, bare, FACE_GROUP_)",
+                          "HasElement(DRESP_, bare, FACE_GROUP_ADD_)",
+                          "HasElement(DRESP_, bare, ELEMENT_GROUP_)",
+                          "HasElement(DRESP_, bare, NODE_GROUP_)",
+                          "GetValue(DRESP_, bare, WRITE_INTERVAL_, 1, vtmInteger, int)",
+                          "GetValue(DRESP_, bare, LOADCASE_, 1, vtmInteger, int)",
+                          "GetValue(DRESP_, bare, ITER_MAX_, 1, vtmInteger, int)",
+                          "GetValue(DRESP_, bare, ITER_MIN_, 1, vtmInteger, int)",
+                          "GetValue(DRESP_, bare, RESIDUAL_, 1, vtmDouble, double)",
+                          "GetValue(DRESP_, bare, ADJOINT_RESIDUAL_, 1, vtmDouble, double)",
+                          "GetValue(DRESP_, bare, ADJOINT_DEVIATION_, 1, vtmDouble, double)",
+                          "GetValue(DRESP_, bare, OBJECTIVE_DEVIATION_, 1, vtmDouble, double)",
+                          "HasElement(DRESP_, bare, FILE_)", "HasElement(DRESP_, bare, CS_REF_)"));
 }
 
 TEST(Dresp, GivesWhatItLoaded)
@@ -506,11 +494,12 @@ TEST(Dresp, ReadsTheNamesAgainUnderTheStoragesIdAndReportsItsOwnId)
                           Problem{"new duct", "ELEMENT_GROUP", "drop", "DRESP"},
                           Problem{"new nodes", "NODE_GROUP", "drop", "DRESP"},
                           Problem{"new axis", "CS_REF", "drop", "DRESP"}));
-  EXPECT_THAT(storage.Calls(), ElementsAre("GetValue(DRESP_, renamed, FACE_GROUP_, 1, vtmModelId, string)",
-                                           "GetValue(DRESP_, renamed, FACE_GROUP_ADD_, 1, vtmModelId, string)",
-                                           "GetValue(DRESP_, renamed, ELEMENT_GROUP_, 1, vtmModelId, string)",
-                                           "GetValue(DRESP_, renamed, NODE_GROUP_, 1, vtmModelId, string)",
-                                           "GetValue(DRESP_, renamed, CS_REF_, 1, vtmModelId, string)"));
+  EXPECT_THAT(storage.Calls(),
+              ElementsAre("GetValue(DRESP_, renamed, FACE_GROUP_, 1, vtmModelId, string)",
+                          "GetValue(DRESP_, renamed, FACE_GROUP_ADD_, 1, vtmModelId, string)",
+                          "GetValue(DRESP_, renamed, ELEMENT_GROUP_, 1, vtmModelId, string)",
+                          "GetValue(DRESP_, renamed, NODE_GROUP_, 1, vtmModelId, string)",
+                          "GetValue(DRESP_, renamed, CS_REF_, 1, vtmModelId, string)"));
 }
 
 TEST(Dresp, HasNothingToCheckForKeysThatWereAbsentWhenItLoaded)

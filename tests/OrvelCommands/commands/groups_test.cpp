@@ -308,7 +308,8 @@ TYPED_TEST(Group, ReportsEveryUnknownNameInTheOrderOfKeysAndThenOfPlaces)
   EXPECT_THAT(ProblemsIn(command, storage, "walls"),
               ElementsAre(Problem{"inlet", "MERGE", "walls", name}, Problem{"outlet", "MERGE", "walls", name},
                           Problem{"duct", "INTERSECT", "walls", name}, Problem{"left", "XOR", "walls", name},
-                          Problem{"right", "XOR", "walls", name}, Problem{"fillet", "SUBTRACT", "walls", name},
+                          Problem{"right", "XOR", "walls", name},
+                          Problem{"fillet", "SUBTRACT", "walls", name},
                           Problem{"hole", "SUBTRACT", "walls", name},
                           Problem{"fillet", "SUBTRACT", "walls", name}));
 }
@@ -405,12 +406,14 @@ TYPED_TEST(Group, ReadsTheNamesAgainUnderTheStoragesIdAndReportsItsOwnId)
   OpenDatabase database;
   database.Add(this->OwnKind(), {"inlet", "outlet", "duct", "left", "right", "fillet", "hole", "third"});
   const std::string name = TypeParam::kName;
-  EXPECT_THAT(
-      ProblemsIn(command, storage, "renamed"),
-      ElementsAre(Problem{"new inlet", "MERGE", "walls", name}, Problem{"new outlet", "MERGE", "walls", name},
-                  Problem{"new duct", "INTERSECT", "walls", name}, Problem{"new left", "XOR", "walls", name},
-                  Problem{"new right", "XOR", "walls", name}, Problem{"new fillet", "SUBTRACT", "walls", name},
-                  Problem{"new hole", "SUBTRACT", "walls", name}));
+  EXPECT_THAT(ProblemsIn(command, storage, "renamed"),
+              ElementsAre(Problem{"new inlet", "MERGE", "walls", name},
+                          Problem{"new outlet", "MERGE", "walls", name},
+                          Problem{"new duct", "INTERSECT", "walls", name},
+                          Problem{"new left", "XOR", "walls", name},
+                          Problem{"new right", "XOR", "walls", name},
+                          Problem{"new fillet", "SUBTRACT", "walls", name},
+                          Problem{"new hole", "SUBTRACT", "walls", name}));
   const std::string renamed = TypeParam::kKind + std::string(", renamed, ");
   EXPECT_THAT(storage.Calls(), ElementsAre("GetValue(" + renamed + "MERGE_, 1, vtmModelId, string)",
                                            "GetValue(" + renamed + "MERGE_, 2, vtmModelId, string)",
