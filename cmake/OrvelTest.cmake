@@ -12,3 +12,13 @@ function(orvel_add_test name)
   target_link_libraries(${name} PRIVATE ${test_LINKS} GTest::gmock_main)
   gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 120 ENVIRONMENT "${ORVEL_TEST_ENVIRONMENT}")
 endfunction()
+
+# A Python test program (unittest) as one test of CTest, run by Debian's Python, which has h5py.
+#
+#   orvel_add_python_test(<name> <file> [ENVIRONMENT NAME=value ...])
+function(orvel_add_python_test name file)
+  cmake_parse_arguments(PARSE_ARGV 2 test "" "" "ENVIRONMENT")
+  find_program(ORVEL_PYTHON python3 PATHS /usr/bin NO_DEFAULT_PATH REQUIRED)
+  add_test(NAME ${name} COMMAND "${ORVEL_PYTHON}" -B "${CMAKE_CURRENT_SOURCE_DIR}/${file}")
+  set_tests_properties(${name} PROPERTIES TIMEOUT 600 ENVIRONMENT "${test_ENVIRONMENT};${ORVEL_TEST_ENVIRONMENT}")
+endfunction()

@@ -116,7 +116,7 @@ std::vector<const void*> HeapWatch::Freed() const
 {
   const Pause pause;
   RefuseAfterOverflow();
-  return {s_freed.begin(), s_freed.begin() + s_num_freed};
+  return std::vector<const void*>(s_freed.begin(), s_freed.begin() + s_num_freed);  // no list of two pointers
 }
 
 void* operator new(std::size_t size)

@@ -34,8 +34,7 @@ private:
     std::string pattern = (std::filesystem::temp_directory_path() / "orvel_test_XXXXXX").string();
     if (mkdtemp(pattern.data()) == nullptr)
     {
-      throw std::filesystem::filesystem_error("mkdtemp", pattern,
-                                              std::error_code(errno, std::generic_category()));
+      throw std::filesystem::filesystem_error("mkdtemp", pattern, std::error_code(errno, std::generic_category()));
     }
     return pattern;
   }

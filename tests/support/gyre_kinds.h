@@ -36,8 +36,8 @@ void ForEachKind(Visitor visit)
 {
   using P = Gyre_Parfile;
   visit(SingleKind<MODEL_>{"MODEL_", &P::GetMODEL_, &P::GetMODEL_});
-  visit(ManyKind<ELEMENT_GROUP_>{"ELEMENT_GROUP_", &P::GetELEMENT_GROUP_, &P::GetELEMENT_GROUP_,
-                                 &P::GetELEMENT_GROUP_, &P::HasELEMENT_GROUP_, &P::NumELEMENT_GROUP_});
+  visit(ManyKind<ELEMENT_GROUP_>{"ELEMENT_GROUP_", &P::GetELEMENT_GROUP_, &P::GetELEMENT_GROUP_, &P::GetELEMENT_GROUP_,
+                                 &P::HasELEMENT_GROUP_, &P::NumELEMENT_GROUP_});
   visit(ManyKind<FACE_GROUP_>{"FACE_GROUP_", &P::GetFACE_GROUP_, &P::GetFACE_GROUP_, &P::GetFACE_GROUP_,
                               &P::HasFACE_GROUP_, &P::NumFACE_GROUP_});
   visit(ManyKind<NODE_GROUP_>{"NODE_GROUP_", &P::GetNODE_GROUP_, &P::GetNODE_GROUP_, &P::GetNODE_GROUP_,
@@ -50,33 +50,30 @@ void ForEachKind(Visitor visit)
   visit(ManyKind<CONSTRAINT_>{"CONSTRAINT_", &P::GetCONSTRAINT_, &P::GetCONSTRAINT_, &P::GetCONSTRAINT_,
                               &P::HasCONSTRAINT_, &P::NumCONSTRAINT_});
   visit(ManyKind<CS_>{"CS_", &P::GetCS_, &P::GetCS_, &P::GetCS_, &P::HasCS_, &P::NumCS_});
-  visit(ManyKind<DV_CONSTRAINT_>{"DV_CONSTRAINT_", &P::GetDV_CONSTRAINT_, &P::GetDV_CONSTRAINT_,
-                                 &P::GetDV_CONSTRAINT_, &P::HasDV_CONSTRAINT_, &P::NumDV_CONSTRAINT_});
+  visit(ManyKind<DV_CONSTRAINT_>{"DV_CONSTRAINT_", &P::GetDV_CONSTRAINT_, &P::GetDV_CONSTRAINT_, &P::GetDV_CONSTRAINT_,
+                                 &P::HasDV_CONSTRAINT_, &P::NumDV_CONSTRAINT_});
   visit(ManyKind<MONITOR_>{"MONITOR_", &P::GetMONITOR_, &P::GetMONITOR_, &P::GetMONITOR_, &P::HasMONITOR_,
                            &P::NumMONITOR_});
   visit(SingleKind<ALGO_>{"ALGO_", &P::GetALGO_, &P::GetALGO_});
-  visit(ManyKind<OPT_PARAM_>{"OPT_PARAM_", &P::GetOPT_PARAM_, &P::GetOPT_PARAM_, &P::GetOPT_PARAM_,
-                             &P::HasOPT_PARAM_, &P::NumOPT_PARAM_});
+  visit(ManyKind<OPT_PARAM_>{"OPT_PARAM_", &P::GetOPT_PARAM_, &P::GetOPT_PARAM_, &P::GetOPT_PARAM_, &P::HasOPT_PARAM_,
+                             &P::NumOPT_PARAM_});
   visit(ManyKind<STOP_>{"STOP_", &P::GetSTOP_, &P::GetSTOP_, &P::GetSTOP_, &P::HasSTOP_, &P::NumSTOP_});
   visit(ManyKind<MESH_SMOOTH_>{"MESH_SMOOTH_", &P::GetMESH_SMOOTH_, &P::GetMESH_SMOOTH_, &P::GetMESH_SMOOTH_,
                                &P::HasMESH_SMOOTH_, &P::NumMESH_SMOOTH_});
-  visit(ManyKind<FILTER_>{"FILTER_", &P::GetFILTER_, &P::GetFILTER_, &P::GetFILTER_, &P::HasFILTER_,
-                          &P::NumFILTER_});
-  visit(ManyKind<PRE_PARAM_>{"PRE_PARAM_", &P::GetPRE_PARAM_, &P::GetPRE_PARAM_, &P::GetPRE_PARAM_,
-                             &P::HasPRE_PARAM_, &P::NumPRE_PARAM_});
+  visit(ManyKind<FILTER_>{"FILTER_", &P::GetFILTER_, &P::GetFILTER_, &P::GetFILTER_, &P::HasFILTER_, &P::NumFILTER_});
+  visit(ManyKind<PRE_PARAM_>{"PRE_PARAM_", &P::GetPRE_PARAM_, &P::GetPRE_PARAM_, &P::GetPRE_PARAM_, &P::HasPRE_PARAM_,
+                             &P::NumPRE_PARAM_});
   visit(ManyKind<AS_TOPO_OC_>{"AS_TOPO_OC_", &P::GetAS_TOPO_OC_, &P::GetAS_TOPO_OC_, &P::GetAS_TOPO_OC_,
                               &P::HasAS_TOPO_OC_, &P::NumAS_TOPO_OC_});
   visit(ManyKind<AS_TOPO_SENS_>{"AS_TOPO_SENS_", &P::GetAS_TOPO_SENS_, &P::GetAS_TOPO_SENS_, &P::GetAS_TOPO_SENS_,
                                 &P::HasAS_TOPO_SENS_, &P::NumAS_TOPO_SENS_});
-  visit(ManyKind<AS_SHAPE_SENS_>{"AS_SHAPE_SENS_", &P::GetAS_SHAPE_SENS_, &P::GetAS_SHAPE_SENS_,
-                                 &P::GetAS_SHAPE_SENS_, &P::HasAS_SHAPE_SENS_, &P::NumAS_SHAPE_SENS_});
+  visit(ManyKind<AS_SHAPE_SENS_>{"AS_SHAPE_SENS_", &P::GetAS_SHAPE_SENS_, &P::GetAS_SHAPE_SENS_, &P::GetAS_SHAPE_SENS_,
+                                 &P::HasAS_SHAPE_SENS_, &P::NumAS_SHAPE_SENS_});
   visit(SingleKind<FLOWPATHS_>{"FLOWPATHS_", &P::GetFLOWPATHS_, &P::GetFLOWPATHS_});
-  visit(ManyKind<OUTPUT_>{"OUTPUT_", &P::GetOUTPUT_, &P::GetOUTPUT_, &P::GetOUTPUT_, &P::HasOUTPUT_,
-                          &P::NumOUTPUT_});
-  visit(ManyKind<SCALING_CURVE_>{"SCALING_CURVE_", &P::GetSCALING_CURVE_, &P::GetSCALING_CURVE_,
-                                 &P::GetSCALING_CURVE_, &P::HasSCALING_CURVE_, &P::NumSCALING_CURVE_});
-  visit(ManyKind<SMOOTH_>{"SMOOTH_", &P::GetSMOOTH_, &P::GetSMOOTH_, &P::GetSMOOTH_, &P::HasSMOOTH_,
-                          &P::NumSMOOTH_});
+  visit(ManyKind<OUTPUT_>{"OUTPUT_", &P::GetOUTPUT_, &P::GetOUTPUT_, &P::GetOUTPUT_, &P::HasOUTPUT_, &P::NumOUTPUT_});
+  visit(ManyKind<SCALING_CURVE_>{"SCALING_CURVE_", &P::GetSCALING_CURVE_, &P::GetSCALING_CURVE_, &P::GetSCALING_CURVE_,
+                                 &P::HasSCALING_CURVE_, &P::NumSCALING_CURVE_});
+  visit(ManyKind<SMOOTH_>{"SMOOTH_", &P::GetSMOOTH_, &P::GetSMOOTH_, &P::GetSMOOTH_, &P::HasSMOOTH_, &P::NumSMOOTH_});
 }
 
 /// A visitor of ForEachKind() that passes on the kinds of which a job has any number.
@@ -153,12 +150,14 @@ std::uint64_t CountOf(const Gyre_Parfile& parfile, const SingleKind<Command>& ki
 inline std::vector<std::string> CommandCounts(const Gyre_Parfile& parfile)
 {
   std::vector<std::string> counts;
-  ForEachKind([&](const auto& kind) {
-    const std::uint64_t count = CountOf(parfile, kind);
-    if (count != 0)
+  ForEachKind(
+    [&](const auto& kind)
     {
-      counts.push_back(std::string(kind.name) + " " + std::to_string(count));
-    }
-  });
+      const std::uint64_t count = CountOf(parfile, kind);
+      if (count != 0)
+      {
+        counts.push_back(std::string(kind.name) + " " + std::to_string(count));
+      }
+    });
   return counts;
 }

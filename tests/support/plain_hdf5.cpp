@@ -81,8 +81,7 @@ std::int64_t NumOpen(unsigned kinds)
 hid_t TheOpenFile()
 {
   hid_t file = H5I_INVALID_HID;
-  if (NumOpen(H5F_OBJ_FILE) != 1 ||
-      H5Fget_obj_ids(static_cast<hid_t>(H5F_OBJ_ALL), H5F_OBJ_FILE, 1, &file) != 1)
+  if (NumOpen(H5F_OBJ_FILE) != 1 || H5Fget_obj_ids(static_cast<hid_t>(H5F_OBJ_ALL), H5F_OBJ_FILE, 1, &file) != 1)
   {
     throw std::runtime_error("not one file is open");
   }
@@ -106,19 +105,19 @@ std::string NameOfType(hid_t type)
   const std::string bytes = std::to_string(size) + (size == 1 ? " byte" : " bytes");
   switch (H5Tget_class(type))
   {
-    case H5T_INTEGER: return (H5Tget_sign(type) == H5T_SGN_2 ? "signed integer of " : "unsigned integer of ") + bytes;
-    case H5T_FLOAT:
-      return (H5Tequal(type, H5T_IEEE_F64LE) > 0 || H5Tequal(type, H5T_IEEE_F64BE) > 0 ? "IEEE float of "
-                                                                                       : "float of ") + bytes;
-    case H5T_STRING: return H5Tis_variable_str(type) > 0 ? "variable-length string" : "string of " + bytes;
-    case H5T_REFERENCE:
-      return (H5Tequal(type, H5T_STD_REF_OBJ) > 0 ? "object reference of " : "region reference of ") + bytes;
-    case H5T_VLEN:
-    {
-      const Id item{H5Tget_super(type), H5Tclose, "get the type of a sequence's items"};
-      return "sequence of " + NameOfType(item);
-    }
-    default: return "another type";
+  case H5T_INTEGER: return (H5Tget_sign(type) == H5T_SGN_2 ? "signed integer of " : "unsigned integer of ") + bytes;
+  case H5T_FLOAT:
+    return (H5Tequal(type, H5T_IEEE_F64LE) > 0 || H5Tequal(type, H5T_IEEE_F64BE) > 0 ? "IEEE float of " : "float of ") +
+           bytes;
+  case H5T_STRING: return H5Tis_variable_str(type) > 0 ? "variable-length string" : "string of " + bytes;
+  case H5T_REFERENCE:
+    return (H5Tequal(type, H5T_STD_REF_OBJ) > 0 ? "object reference of " : "region reference of ") + bytes;
+  case H5T_VLEN:
+  {
+    const Id item{H5Tget_super(type), H5Tclose, "get the type of a sequence's items"};
+    return "sequence of " + NameOfType(item);
+  }
+  default: return "another type";
   }
 }
 
@@ -161,13 +160,9 @@ QuietErrors::~QuietErrors()
   H5Eset_auto2(H5E_DEFAULT, m_print, m_data);
 }
 
-Id::Id(hid_t id, Release release, const std::string& what) : m_id(Checked(id, what)), m_release(release)
-{
-}
+Id::Id(hid_t id, Release release, const std::string& what) : m_id(Checked(id, what)), m_release(release) {}
 
-Id::Id(Id&& other) noexcept : m_id(std::exchange(other.m_id, H5I_INVALID_HID)), m_release(other.m_release)
-{
-}
+Id::Id(Id&& other) noexcept : m_id(std::exchange(other.m_id, H5I_INVALID_HID)), m_release(other.m_release) {}
 
 Id::~Id()
 {

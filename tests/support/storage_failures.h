@@ -29,8 +29,9 @@ inline bool HasDetail(const std::string& text, const std::string& head, const st
 
 /// A failure of the HDF5 storage with this first line and this code, followed by what HDF5 reported.
 MATCHER_P2(IsDatabaseFailure, first_line, code,
-           "has the text \"" + std::string(first_line) + "\\nDatabase reported the following error:\\n <detail> \", code \"" +
-             code + "\" and the prefix of the HDF5 storage")
+           "has the text \"" + std::string(first_line) +
+             "\\nDatabase reported the following error:\\n <detail> \", code \"" + code +
+             "\" and the prefix of the HDF5 storage")
 {
   const Failure& failure = arg;
   return failure.code == code && failure.prefix == storage_failures::kPrefix &&

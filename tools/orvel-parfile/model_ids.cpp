@@ -17,6 +17,7 @@ const std::map<std::string, KLV_IdType> kLists = {{"element_groups", KLV_IdType:
 std::vector<std::string> ListNames()
 {
   std::vector<std::string> names;
+  names.reserve(kLists.size());
   for (const auto& [name, type] : kLists)
   {
     names.push_back(name);

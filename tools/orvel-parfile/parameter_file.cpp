@@ -94,7 +94,7 @@ void ForEachValue(const std::vector<JobCommand>& job, Visit visit)
 
 fs::path ParameterFilePath(const fs::path& argument)
 {
-  const fs::path path = fs::absolute(argument);
+  fs::path path = fs::absolute(argument);
   if (fs::is_directory(path))
   {
     return path / PARFILE_STORAGE_FILE;

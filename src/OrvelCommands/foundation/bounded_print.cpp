@@ -12,8 +12,9 @@ namespace orvel::detail
 namespace
 {
 
-// One more than can be seen of a result, so that a field of this width is cut like any wider one.
-constexpr int kFieldLimit = static_cast<int>(kBoundedPrintLimit) + 1;
+// Far more than can be seen of a result, so that what stands right in a field of this width is cut off as in any wider
+// one, and little enough to be printed at once.
+constexpr int kFieldLimit = 4096;
 
 struct Conversion
 {
@@ -116,7 +117,7 @@ std::string PrintfFormat(const Conversion& conversion, char type)
 // What printf gives for a zero, an empty text or null. The result may hold a NUL byte.
 std::string PrintZero(const Conversion& conversion)
 {
-  std::array<char, kFieldLimit + 64> buffer{};
+  std::array<char, kBoundedPrintLimit + 1> buffer{};
   const auto print = [&](char type, auto zero) {
     const int length = std::snprintf(buffer.data(), buffer.size(), PrintfFormat(conversion, type).c_str(), zero);
     return std::string(buffer.data(), std::clamp<std::size_t>(length, 0, buffer.size() - 1));

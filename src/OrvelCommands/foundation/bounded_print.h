@@ -39,8 +39,7 @@ constexpr std::size_t kBoundedPrintLimit = 1023;
 /// `%s`, `%d` and `%Iu` without flags take the next argument. Every other conversion, and each of these when no
 /// argument is left, prints what printf gives for a zero, an empty text or a null, so that a finished text which
 /// happens to hold a "%" can stand as the format: nothing is ever read that was not passed. `%%` gives "%", `%n`
-/// writes nothing, widths and precisions are limited to kBoundedPrintLimit + 1, and what is no conversion stays as it
-/// stands. As in a C string, a NUL byte (`%c` of a zero) ends the result.
+/// writes nothing, widths and precisions are limited to 4096, and what is no conversion stays as it stands. As in a C string, a NUL byte (`%c` of a zero) ends the result.
 ///
 /// Cost: linear in the shorter of the format and the limit.
 std::string BoundedPrint(const char* format, std::initializer_list<PrintArgument> arguments = {});

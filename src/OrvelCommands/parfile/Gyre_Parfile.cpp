@@ -20,7 +20,7 @@ constexpr const char* kAggregate = "Gyre_Parfile";
 Gyre_Parfile::Gyre_Parfile(OrvelParfileStorage& storage) : Parfile(storage) {}
 
 Gyre_Parfile::Gyre_Parfile(Gyre_Parfile&& other)
-  : Parfile(other),
+  : Parfile(static_cast<Parfile&&>(other)),
     m_MODEL_(std::move(other.m_MODEL_)),
     m_ELEMENT_GROUP_(std::move(other.m_ELEMENT_GROUP_)),
     m_FACE_GROUP_(std::move(other.m_FACE_GROUP_)),

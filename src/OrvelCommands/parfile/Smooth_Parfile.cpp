@@ -19,7 +19,7 @@ constexpr const char* kAggregate = "Smooth_Parfile";
 Smooth_Parfile::Smooth_Parfile(OrvelParfileStorage& storage) : Parfile(storage) {}
 
 Smooth_Parfile::Smooth_Parfile(Smooth_Parfile&& other)
-  : Parfile(other),
+  : Parfile(static_cast<Parfile&&>(other)),
     m_SMOOTH_(std::move(other.m_SMOOTH_))
 {
 }

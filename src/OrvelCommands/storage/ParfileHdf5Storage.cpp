@@ -279,7 +279,8 @@ void ParfileHdf5Storage::GetReference(const std::string& command, const std::str
     const H5::DataSet dataset = m_parfile_group.openDataSet(DatasetPath(command, id_name, key));
     hobj_ref_t reference = 0;
     Get(dataset, H5::PredType::STD_REF_OBJ, index - 1, &reference);
-    if (dataset.getRefObjType(&reference, H5R_OBJECT) != H5O_TYPE_GROUP)
+    H5O_type_t type = H5O_TYPE_UNKNOWN;
+    if (H5Rget_obj_type2(dataset.getId(), H5R_OBJECT, &reference, &type) < 0 || type != H5O_TYPE_GROUP)
     {
       // A dataset dereferenced into a group would keep the file open for good.
       throw H5::ReferenceException("ParfileHdf5Storage::GetReference", "the reference leads to no group");
@@ -545,7 +546,7 @@ void ParfileHdf5Storage::Set(const H5::DataSet& dataset, const H5::DataType& typ
     if (position >= static_cast<std::size_t>(space.getSimpleExtentNpoints()))
     {
       const hsize_t size[] = {position + 1};
-      H5::DataSet(dataset).extend(size);
+      dataset.extend(size);
       space = dataset.getSpace();
     }
     SelectElement(space, position);

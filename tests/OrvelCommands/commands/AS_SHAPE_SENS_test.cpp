@@ -74,7 +74,7 @@ RecordingStorage FullJob()
   return storage;
 }
 
-const char* const LINKED_TEXT = "m_ID_NAME_: morphing\n"
+const char* const kLinkedText = "m_ID_NAME_: morphing\n"
                                 "m_PATCH_ID_: wall\n"
                                 "m_ALGORITHM_: FD_CHECK\n"
                                 "m_MATH_KERNEL_: MKL\n"
@@ -368,7 +368,7 @@ TEST(AsShapeSens, PrintsAllItHoldsOnceItIsLinked)
   EXPECT_EQ(record.source, "LocalGenerated\\win_b64\\gyre_commands");
   EXPECT_EQ(record.line, 5335);
   EXPECT_EQ(record.prefix, "[%T|%n|%P|OrvelCommands|AS_SHAPE_SENS_] ");
-  EXPECT_EQ(record.text, LINKED_TEXT);
+  EXPECT_EQ(record.text, kLinkedText);
 }
 
 TEST(AsShapeSens, PrintsJustTheFirst1023CharactersOfALongText)
@@ -490,7 +490,7 @@ TEST(AsShapeSens, CopiesEveryMemberAndPointsToTheSameFilters)
   EXPECT_EQ(copy.NumFILTER_(), 3U);
   EXPECT_EQ(copy.GetFILTER_(), original.GetFILTER_());
   EXPECT_EQ(&copy.GetFILTER_(2), &parfile.GetFILTER_("coarse"));
-  EXPECT_EQ(LogRecordOf(copy).text, LINKED_TEXT);
+  EXPECT_EQ(LogRecordOf(copy).text, kLinkedText);
 }
 
 TEST(AsShapeSens, IsAssignedEveryMemberAndSurvivesAssignmentToItself)
@@ -503,7 +503,7 @@ TEST(AsShapeSens, IsAssignedEveryMemberAndSurvivesAssignmentToItself)
   const AS_SHAPE_SENS_& itself = other;
   other = itself;
   ExpectFull(other);
-  EXPECT_EQ(LogRecordOf(other).text, LINKED_TEXT);
+  EXPECT_EQ(LogRecordOf(other).text, kLinkedText);
   other = AS_SHAPE_SENS_();
   EXPECT_EQ(other.GetID_NAME_(), "");
   ExpectDefaults(other);

@@ -45,7 +45,7 @@ AS_TOPO_OC_ FullCommand()
   return LoadedAlone<AS_TOPO_OC_>(storage, "criteria");
 }
 
-const char* const FULL_TEXT = "m_ID_NAME_: criteria\n"
+const char* const kFullText = "m_ID_NAME_: criteria\n"
                               "m_PATCH_ID_: casing\n"
                               "m_BT_: 0.25\n"
                               "m_TA_MIN_: 0.001\n"
@@ -217,7 +217,7 @@ TEST(AsTopoOc, PrintsAllItHoldsWithinAJob)
   EXPECT_EQ(record.source, "LocalGenerated\\win_b64\\gyre_commands");
   EXPECT_EQ(record.line, 4699);
   EXPECT_EQ(record.prefix, "[%T|%n|%P|OrvelCommands|AS_TOPO_OC_] ");
-  EXPECT_EQ(record.text, FULL_TEXT);
+  EXPECT_EQ(record.text, kFullText);
 }
 
 TEST(AsTopoOc, TakesAPercentSignInAValueAsAConversion)
@@ -253,7 +253,7 @@ TEST(AsTopoOc, CopiesEveryMember)
   const AS_TOPO_OC_ original = FullCommand();
   const AS_TOPO_OC_ copy(original);
   ExpectFull(copy);
-  EXPECT_EQ(LogRecordOf(copy).text, FULL_TEXT);
+  EXPECT_EQ(LogRecordOf(copy).text, kFullText);
   ExpectFull(original);
 }
 

@@ -74,7 +74,7 @@ AS_TOPO_SENS_ FullCommand()
 }
 
 // 740 characters: all of it fits into one record.
-const char* const FULL_TEXT = "m_ID_NAME_: gradients\n"
+const char* const kFullText = "m_ID_NAME_: gradients\n"
                               "m_PATCH_ID_: duct\n"
                               "m_ALGORITHM_: MMA\n"
                               "m_MATH_KERNEL_: INTERNAL\n"
@@ -412,7 +412,7 @@ TEST(AsTopoSens, PrintsAllItHoldsWithinAJob)
   EXPECT_EQ(record.source, "LocalGenerated\\win_b64\\gyre_commands");
   EXPECT_EQ(record.line, 5012);
   EXPECT_EQ(record.prefix, "[%T|%n|%P|OrvelCommands|AS_TOPO_SENS_] ");
-  EXPECT_EQ(record.text, FULL_TEXT);
+  EXPECT_EQ(record.text, kFullText);
 }
 
 TEST(AsTopoSens, PrintsJustTheFirst1023CharactersOfALongText)
@@ -440,7 +440,7 @@ TEST(AsTopoSens, CopiesEveryMember)
   const AS_TOPO_SENS_ original = FullCommand();
   const AS_TOPO_SENS_ copy(original);
   ExpectFull(copy);
-  EXPECT_EQ(LogRecordOf(copy).text, FULL_TEXT);
+  EXPECT_EQ(LogRecordOf(copy).text, kFullText);
   ExpectFull(original);
 }
 

@@ -27,7 +27,8 @@ static_assert(kReturn<Dvc, const std::string&, &Dvc::GetType, &Dvc::GetID_NAME_,
 static_assert(kReturn<Dvc, const double&, &Dvc::GetX_POINT_, &Dvc::GetY_POINT_, &Dvc::GetZ_POINT_,
                       &Dvc::GetX_DIRECTION_, &Dvc::GetY_DIRECTION_, &Dvc::GetZ_DIRECTION_,
                       &Dvc::GetX_START_DIRECTION_, &Dvc::GetY_START_DIRECTION_, &Dvc::GetZ_START_DIRECTION_,
-                      &Dvc::GetANGLE_, &Dvc::GetRADIUS_, &Dvc::GetAGGREGATION_PARAMETER_, &Dvc::GetTOLERANCE_>);
+                      &Dvc::GetANGLE_, &Dvc::GetRADIUS_, &Dvc::GetAGGREGATION_PARAMETER_,
+                      &Dvc::GetTOLERANCE_>);
 static_assert(kReturn<Dvc, const int&, &Dvc::GetAGGREGATION_NUM_CONSTRAINTS_>);
 static_assert(kReturn<Dvc, const Dvc::Enum_DVC_TYPE_&, &Dvc::GetDVC_TYPE_>);
 static_assert(kReturn<Dvc, const Dvc::Enum_FEASIBLE_START_&, &Dvc::GetFEASIBLE_START_>);
@@ -48,13 +49,14 @@ static_assert(kReturn<Dvc, bool, &Dvc::HasNODE_GROUP_, &Dvc::HasCHECK_GROUP_, &D
                       &Dvc::HasX_DIRECTION_, &Dvc::HasY_DIRECTION_, &Dvc::HasZ_DIRECTION_,
                       &Dvc::HasX_START_DIRECTION_, &Dvc::HasY_START_DIRECTION_, &Dvc::HasZ_START_DIRECTION_,
                       &Dvc::HasANGLE_, &Dvc::HasRADIUS_, &Dvc::HasFILTER_TYPE_, &Dvc::HasMEMBERSIZE_TYPE_,
-                      &Dvc::HasCS_, &Dvc::HasX_DOF_, &Dvc::HasY_DOF_, &Dvc::HasZ_DOF_, &Dvc::HasSCALING_CURVE_>);
+                      &Dvc::HasCS_, &Dvc::HasX_DOF_, &Dvc::HasY_DOF_, &Dvc::HasZ_DOF_,
+                      &Dvc::HasSCALING_CURVE_>);
 
 namespace
 {
 
-// The 1023 characters of the full command that fit into one record: the last line is cut within its label. What
-// does not fit is
+// The 1023 characters of the full command that fit into one record: the last line is cut within its label.
+// What does not fit is
 //   _: yes                          m_Z_DOF_: FREE
 //   m_CS_: axis                     m_CHECK_ELGR_BLOCKING_: NEG
 //   m_has_X_DOF_: yes               m_TOLERANCE_: 0.001
@@ -430,7 +432,8 @@ TEST(DvConstraint, LoadsItsThirtyOneKeysInOrderAndLeavesTheReferencesAlone)
                           "GetEnumValue(DV_CONSTRAINT_, mirror, MEMBERSIZE_TYPE_, 1, vtmEnum)",
                           "GetEnumValue(DV_CONSTRAINT_, mirror, AGGREGATION_METHOD_, 1, vtmEnum)",
                           "GetValue(DV_CONSTRAINT_, mirror, AGGREGATION_PARAMETER_, 1, vtmDouble, double)",
-                          "GetValue(DV_CONSTRAINT_, mirror, AGGREGATION_NUM_CONSTRAINTS_, 1, vtmInteger, int)",
+                          "GetValue(DV_CONSTRAINT_, mirror, AGGREGATION_NUM_CONSTRAINTS_, 1, vtmInteger, "
+                          "int)",
                           "HasElement(DV_CONSTRAINT_, mirror, X_DOF_)",
                           "GetEnumValue(DV_CONSTRAINT_, mirror, X_DOF_, 1, vtmEnum)",
                           "HasElement(DV_CONSTRAINT_, mirror, Y_DOF_)",
@@ -763,7 +766,8 @@ TEST(DvConstraint, PrintsJustTheFirst1023CharactersOfAFullCommand)
 {
   LinkedJob job(StorageWithFullConstraintAndTargets());
   const KLV_LogRecord record = LogRecordOf(job->GetDV_CONSTRAINT_("mirror"));
-  EXPECT_EQ(HeadOf(record), "LocalGenerated\\win_b64\\gyre_commands:3252 [%T|%n|%P|OrvelCommands|DV_CONSTRAINT_] ");
+  EXPECT_EQ(HeadOf(record),
+            "LocalGenerated\\win_b64\\gyre_commands:3252 [%T|%n|%P|OrvelCommands|DV_CONSTRAINT_] ");
   EXPECT_EQ(record.text.size(), 1023U);
   EXPECT_EQ(record.text, kFullTextCut);
 }

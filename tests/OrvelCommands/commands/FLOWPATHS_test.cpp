@@ -39,7 +39,7 @@ FLOWPATHS_ FullCommand()
   return LoadedAlone<FLOWPATHS_>(storage, "paths");
 }
 
-const char* const FULL_TEXT = "m_ID_NAME_: paths\n"
+const char* const kFullText = "m_ID_NAME_: paths\n"
                               "m_num_IN_: 3\n"
                               "m_IN_: [\n"
                               "inlet bypass leak]\n"
@@ -190,7 +190,7 @@ TEST(Flowpaths, PrintsAllItHoldsWithinAJob)
   EXPECT_EQ(record.source, "LocalGenerated\\win_b64\\gyre_commands");
   EXPECT_EQ(record.line, 5486);
   EXPECT_EQ(record.prefix, "[%T|%n|%P|OrvelCommands|FLOWPATHS_] ");
-  EXPECT_EQ(record.text, FULL_TEXT);
+  EXPECT_EQ(record.text, kFullText);
 }
 
 TEST(Flowpaths, PrintsJustTheFirst1023CharactersOfALongText)
@@ -315,7 +315,7 @@ TEST(Flowpaths, CopiesEveryMember)
   const FLOWPATHS_ copy(original);
   ExpectFull(copy);
   EXPECT_NE(&copy.GetIN_(1), &original.GetIN_(1));
-  EXPECT_EQ(LogRecordOf(copy).text, FULL_TEXT);
+  EXPECT_EQ(LogRecordOf(copy).text, kFullText);
   ExpectFull(original);
 }
 

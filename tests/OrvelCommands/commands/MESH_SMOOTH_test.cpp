@@ -14,6 +14,7 @@
 #include <vector>
 
 using testing::ElementsAre;
+using testing::EndsWith;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
@@ -172,17 +173,18 @@ TEST(MeshSmooth, LoadsItsKeysInOrderAndLeavesTheReferencesAlone)
 {
   const RecordingStorage storage = StorageWithFullMeshSmooth();
   LoadedAlone<MESH_SMOOTH_>(storage, "relax");
-  EXPECT_THAT(storage.Calls(), ElementsAre("GetEnumValue(MESH_SMOOTH_, relax, METHOD_, 1, vtmEnum)",
-                                           "GetValue(MESH_SMOOTH_, relax, CYCLE_, 1, vtmInteger, int)",
-                                           "HasElement(MESH_SMOOTH_, relax, FACE_GROUP_)",
-                                           "GetValue(MESH_SMOOTH_, relax, FACE_GROUP_, 1, vtmModelId, string)",
-                                           "HasElement(MESH_SMOOTH_, relax, NODE_GROUP_)",
-                                           "GetValue(MESH_SMOOTH_, relax, NODE_GROUP_, 1, vtmModelId, string)",
-                                           "HasElement(MESH_SMOOTH_, relax, ELEMENT_GROUP_)",
-                                           "GetValue(MESH_SMOOTH_, relax, ELEMENT_GROUP_, 1, vtmModelId, string)",
-                                           "GetValue(MESH_SMOOTH_, relax, SMOOTH_CYCLES_, 1, vtmInteger, int)",
-                                           "GetValue(MESH_SMOOTH_, relax, ALPHA_, 1, vtmDouble, double)",
-                                           "GetValue(MESH_SMOOTH_, relax, BETA_, 1, vtmDouble, double)"));
+  EXPECT_THAT(storage.Calls(),
+              ElementsAre("GetEnumValue(MESH_SMOOTH_, relax, METHOD_, 1, vtmEnum)",
+                          "GetValue(MESH_SMOOTH_, relax, CYCLE_, 1, vtmInteger, int)",
+                          "HasElement(MESH_SMOOTH_, relax, FACE_GROUP_)",
+                          "GetValue(MESH_SMOOTH_, relax, FACE_GROUP_, 1, vtmModelId, string)",
+                          "HasElement(MESH_SMOOTH_, relax, NODE_GROUP_)",
+                          "GetValue(MESH_SMOOTH_, relax, NODE_GROUP_, 1, vtmModelId, string)",
+                          "HasElement(MESH_SMOOTH_, relax, ELEMENT_GROUP_)",
+                          "GetValue(MESH_SMOOTH_, relax, ELEMENT_GROUP_, 1, vtmModelId, string)",
+                          "GetValue(MESH_SMOOTH_, relax, SMOOTH_CYCLES_, 1, vtmInteger, int)",
+                          "GetValue(MESH_SMOOTH_, relax, ALPHA_, 1, vtmDouble, double)",
+                          "GetValue(MESH_SMOOTH_, relax, BETA_, 1, vtmDouble, double)"));
 }
 
 TEST(MeshSmooth, DoesNotReadGroupsThatAreAbsent)
@@ -298,7 +300,8 @@ TEST(MeshSmooth, PrintsTheIdsOfItsFilterAndItsConstraintOnceTheyAreResolved)
 {
   LinkedJob job(StorageWithTargets());
   const KLV_LogRecord record = LogRecordOf(job->GetMESH_SMOOTH_("relax"));
-  EXPECT_EQ(HeadOf(record), "LocalGenerated\\win_b64\\gyre_commands:3986 [%T|%n|%P|OrvelCommands|MESH_SMOOTH_] ");
+  EXPECT_EQ(HeadOf(record),
+            "LocalGenerated\\win_b64\\gyre_commands:3986 [%T|%n|%P|OrvelCommands|MESH_SMOOTH_] ");
   EXPECT_EQ(record.text, kLinkedText);
 }
 
@@ -389,7 +392,7 @@ TEST(MeshSmooth, IsLinkedUpToTheReferenceThatEndsTheLoad)
   EXPECT_FALSE(parfile.GetMESH_SMOOTH_("broken").HasDV_CONSTRAINT_());
   EXPECT_FALSE(parfile.GetMESH_SMOOTH_("later").HasFILTER_());
   EXPECT_THAT(LogRecordOf(parfile.GetMESH_SMOOTH_("broken")).text,
-              testing::EndsWith("m_has_FILTER_: yes\nm_FILTER_: \nm_has_DV_CONSTRAINT_: no\n"));
+              EndsWith("m_has_FILTER_: yes\nm_FILTER_: \nm_has_DV_CONSTRAINT_: no\n"));
 }
 
 TEST(MeshSmooth, PrintsAPercentSignInAGroupAsAConversion)
@@ -467,8 +470,9 @@ TEST(MeshSmooth, AcceptsAnyMixOfGroupsAndChecksJustThosePresent)
   const OpenDatabase database;
   EXPECT_THAT(ProblemsIn(command, storage, "relax"),
               ElementsAre(Unknown("rim", "NODE_GROUP"), Unknown("core", "ELEMENT_GROUP")));
-  EXPECT_THAT(storage.Calls(), ElementsAre("GetValue(MESH_SMOOTH_, relax, NODE_GROUP_, 1, vtmModelId, string)",
-                                           "GetValue(MESH_SMOOTH_, relax, ELEMENT_GROUP_, 1, vtmModelId, string)"));
+  EXPECT_THAT(storage.Calls(),
+              ElementsAre("GetValue(MESH_SMOOTH_, relax, NODE_GROUP_, 1, vtmModelId, string)",
+                          "GetValue(MESH_SMOOTH_, relax, ELEMENT_GROUP_, 1, vtmModelId, string)"));
 }
 
 TEST(MeshSmooth, HasNothingToCheckWithoutGroupsAndNeedsNoDatabaseThen)

@@ -57,7 +57,7 @@ OUTPUT_ FullCommand()
   return LoadedAlone<OUTPUT_>(storage, "result");
 }
 
-const char* const FULL_TEXT = "m_ID_NAME_: result\n"
+const char* const kFullText = "m_ID_NAME_: result\n"
                               "m_FILENAME_: duct.vtk\n"
                               "m_FORMAT_: VTK\n"
                               "m_ITERATION_: [\n"
@@ -298,7 +298,7 @@ TEST(Output, PrintsAllItHoldsWithinAJob)
   EXPECT_EQ(record.source, "LocalGenerated\\win_b64\\gyre_commands");
   EXPECT_EQ(record.line, 5846);
   EXPECT_EQ(record.prefix, "[%T|%n|%P|OrvelCommands|OUTPUT_] ");
-  EXPECT_EQ(record.text, FULL_TEXT);
+  EXPECT_EQ(record.text, kFullText);
 }
 
 TEST(Output, PrintsJustTheFirst1023CharactersOfALongText)
@@ -419,7 +419,7 @@ TEST(Output, CopiesEveryMember)
   const OUTPUT_ copy(original);
   ExpectFull(copy);
   EXPECT_NE(copy.GetITERATION_().data(), original.GetITERATION_().data());
-  EXPECT_EQ(LogRecordOf(copy).text, FULL_TEXT);
+  EXPECT_EQ(LogRecordOf(copy).text, kFullText);
   ExpectFull(original);
 }
 

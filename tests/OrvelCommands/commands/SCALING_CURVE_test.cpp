@@ -41,7 +41,7 @@ SCALING_CURVE_ FullCommand()
   return LoadedAlone<SCALING_CURVE_>(storage, "ramp");
 }
 
-const char* const FULL_TEXT = "m_ID_NAME_: ramp\n"
+const char* const kFullText = "m_ID_NAME_: ramp\n"
                               "m_TYPE_: SIN\n"
                               "m_UPDATE_ID_: each\n"
                               "m_MIN_: -0.75\n"
@@ -178,7 +178,7 @@ TEST(ScalingCurve, PrintsAllItHoldsWithinAJob)
   EXPECT_EQ(record.source, "LocalGenerated\\win_b64\\gyre_commands");
   EXPECT_EQ(record.line, 5971);
   EXPECT_EQ(record.prefix, "[%T|%n|%P|OrvelCommands|SCALING_CURVE_] ");
-  EXPECT_EQ(record.text, FULL_TEXT);
+  EXPECT_EQ(record.text, kFullText);
 }
 
 TEST(ScalingCurve, TakesAPercentSignInAValueAsAConversion)
@@ -213,7 +213,7 @@ TEST(ScalingCurve, CopiesEveryMember)
   const SCALING_CURVE_ original = FullCommand();
   const SCALING_CURVE_ copy(original);
   ExpectFull(copy);
-  EXPECT_EQ(LogRecordOf(copy).text, FULL_TEXT);
+  EXPECT_EQ(LogRecordOf(copy).text, kFullText);
   ExpectFull(original);
 }
 

@@ -126,7 +126,7 @@ SMOOTH_ FullCommand()
 }
 
 /// The first 1023 characters.
-const char* const FULL_TEXT = "m_ID_NAME_: job\n"
+const char* const kFullText = "m_ID_NAME_: job\n"
                               "m_PATCH_ID_: rib\n"
                               "m_TASK_: ISO\n"
                               "m_ALL_ITERATIONS_: NO\n"
@@ -942,7 +942,7 @@ TEST(Smooth, PrintsTheFirst1023CharactersOfAllItHoldsWithinASmoothingJob)
   EXPECT_EQ(record.line, 1371);
   EXPECT_EQ(record.prefix, "[%T|%n|%P|OrvelCommands|SMOOTH_] ");
   EXPECT_EQ(record.text.size(), 1023U);
-  EXPECT_EQ(record.text, FULL_TEXT);
+  EXPECT_EQ(record.text, kFullText);
 }
 
 TEST(Smooth, PrintsTheSameWithinAFluidJob)
@@ -952,7 +952,7 @@ TEST(Smooth, PrintsTheSameWithinAFluidJob)
   AddFullCommand(storage);
   Gyre_Parfile parfile(storage);
   parfile.Load();
-  EXPECT_EQ(LogRecordOf(parfile.GetSMOOTH_("job")).text, FULL_TEXT);
+  EXPECT_EQ(LogRecordOf(parfile.GetSMOOTH_("job")).text, kFullText);
 }
 
 TEST(Smooth, PrintsACountOfNoFormatsAndAnEmptyList)
@@ -1041,7 +1041,7 @@ TEST(Smooth, CopiesEveryMember)
   const SMOOTH_ copy(original);
   ExpectFull(copy);
   EXPECT_NE(copy.GetFORMAT_().data(), original.GetFORMAT_().data());
-  EXPECT_EQ(LogRecordOf(copy).text, FULL_TEXT);
+  EXPECT_EQ(LogRecordOf(copy).text, kFullText);
   ExpectFull(original);
 }
 

@@ -105,8 +105,6 @@ RecordingStorage StorageWithBareGroup(const char* kind)
 
 const std::vector<const char*> kNameLists{"MERGE_", "INTERSECT_", "XOR_", "SUBTRACT_"};
 
-}  // namespace
-
 template <class Row>
 class Group : public testing::Test
 {
@@ -120,6 +118,9 @@ protected:
 };
 
 using GroupRows = testing::Types<ElementGroup, FaceGroup, NodeGroup>;
+
+}  // namespace
+
 TYPED_TEST_SUITE(Group, GroupRows, NameOfGroup);
 
 TYPED_TEST(Group, TellsItsNames)

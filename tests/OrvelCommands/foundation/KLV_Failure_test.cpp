@@ -1,6 +1,6 @@
 #include "OrvelCommands/foundation/KLV_Failure.h"
-#include "support/VirtualSlot.h"
 #include "support/failures.h"
+#include "support/VirtualSlot.h"
 
 #include <gmock/gmock.h>
 

@@ -80,7 +80,8 @@ TEST(KlvParfileException, HasNoLimitOnItsMessage)
 {
   const std::string value(5000, 'x');
   EXPECT_EQ(KLV_ParfileException("Reason", value, "P", "id", "C").GetMessage(),
-            "Reason\n  Value \"" + value + "\" of parameter \"P\" is erroneous\n  In \"C\" command with ID_NAME \"id\"");
+            "Reason\n  Value \"" + value +
+              "\" of parameter \"P\" is erroneous\n  In \"C\" command with ID_NAME \"id\"");
 }
 
 TEST(KlvParfileException, IsCopiedWithItsMessageSingle)

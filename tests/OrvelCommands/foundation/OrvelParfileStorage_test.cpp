@@ -52,8 +52,8 @@ static_assert(std::is_same_v<decltype(&Storage::HasCommand), bool (Storage::*)(T
 static_assert(std::is_same_v<decltype(&Storage::GetNumCommand), std::uint64_t (Storage::*)(Text) const>);
 static_assert(std::is_same_v<decltype(&Storage::GetNumElements), std::uint64_t (Storage::*)(Text, Text, Text) const>);
 static_assert(std::is_same_v<decltype(&Storage::HasElement), bool (Storage::*)(Text, Text, Text) const>);
-static_assert(std::is_same_v<decltype(&Storage::GetCommandName),
-                             void (Storage::*)(Text, std::uint64_t, std::string&) const>);
+static_assert(
+  std::is_same_v<decltype(&Storage::GetCommandName), void (Storage::*)(Text, std::uint64_t, std::string&) const>);
 static_assert(std::is_same_v<decltype(&Storage::GetReference),
                              void (Storage::*)(Text, Text, Text, std::uint64_t, std::string&) const>);
 static_assert(std::is_same_v<decltype(&Storage::GetEnumValue), Reader<int>>);

@@ -7,8 +7,8 @@
 
 static_assert(!std::is_base_of_v<std::exception, ParfileReferenceError>, "it stands beside the failures");
 static_assert(std::has_virtual_destructor_v<ParfileReferenceError>);
-static_assert(std::is_same_v<decltype(&ParfileReferenceError::GetDescription),
-                             std::string (ParfileReferenceError::*)() const>);
+static_assert(
+  std::is_same_v<decltype(&ParfileReferenceError::GetDescription), std::string (ParfileReferenceError::*)() const>);
 
 TEST(ParfileReferenceError, DescribesSourceAndTargetWithAnArrowBetween)
 {

@@ -30,8 +30,8 @@ inline std::string BrokenRuleOfBoundedPrint(std::string format)
   using orvel::detail::BoundedPrint;
   format = format.c_str();
   const std::string printed = BoundedPrint(format.c_str());
-  const std::string filled = BoundedPrint(
-    format.c_str(), {"a text", -1, std::numeric_limits<std::uint64_t>::max(), std::string(2000, 'x'), 7});
+  const std::string filled =
+    BoundedPrint(format.c_str(), {"a text", -1, std::numeric_limits<std::uint64_t>::max(), std::string(2000, 'x'), 7});
   if (printed.size() > 1023 || filled.size() > 1023)
   {
     return "more than 1023 bytes";

@@ -10,7 +10,6 @@
 #include <vector>
 
 using orvel::detail::BoundedPrint;
-using orvel::detail::PrintArgument;
 
 namespace
 {
@@ -77,24 +76,39 @@ struct Family
 const std::vector<std::string> kWidths = {"", "1", "2", "7", "40", "1022", "1023", "1024", "1500"};
 const std::vector<std::string> kPrecisions = {"", ".", ".0", ".1", ".3", ".40", ".1022", ".1023", ".1024"};
 
+// Each head with each tail behind it.
+std::vector<std::string> Combine(const std::vector<std::string>& heads, const std::vector<std::string>& tails)
+{
+  std::vector<std::string> texts;
+  for (const std::string& head : heads)
+  {
+    for (const std::string& tail : tails)
+    {
+      texts.push_back(head + tail);
+    }
+  }
+  return texts;
+}
+
+void ExpectAsTheCLibrary(const Family& family, char letter)
+{
+  const std::vector<std::string> beginnings =
+    Combine(Combine(Combine({"<%"}, family.flags), kWidths), family.precisions);
+  for (const std::string& beginning : beginnings)
+  {
+    for (const std::string& modifier : family.modifiers)
+    {
+      const std::string format = beginning + modifier + letter + ">";
+      ASSERT_EQ(Print(format), PrintZeroByTheCLibrary(format, modifier, letter)) << "of the format " << format;
+    }
+  }
+}
+
 void ExpectAsTheCLibrary(const Family& family)
 {
   for (const char letter : family.letters)
   {
-    for (const std::string& flags : family.flags)
-    {
-      for (const std::string& width : kWidths)
-      {
-        for (const std::string& precision : family.precisions)
-        {
-          for (const std::string& modifier : family.modifiers)
-          {
-            const std::string format = "<%" + flags + width + precision + modifier + letter + ">";
-            ASSERT_EQ(Print(format), PrintZeroByTheCLibrary(format, modifier, letter)) << "of the format " << format;
-          }
-        }
-      }
-    }
+    ExpectAsTheCLibrary(family, letter);
   }
 }
 
@@ -102,7 +116,8 @@ void ExpectAsTheCLibrary(const Family& family)
 
 TEST(BoundedPrint, GivesATextWithoutPercentSignsAsItIs)
 {
-  ExpectRows({{"", ""}, {"plain", "plain"}, {"a\nb\t\"c\" \\ $1 {}", "a\nb\t\"c\" \\ $1 {}"}, {"\xc3\xbc\xff", "\xc3\xbc\xff"}});
+  ExpectRows(
+    {{"", ""}, {"plain", "plain"}, {"a\nb\t\"c\" \\ $1 {}", "a\nb\t\"c\" \\ $1 {}"}, {"\xc3\xbc\xff", "\xc3\xbc\xff"}});
 }
 
 TEST(BoundedPrint, GivesAPercentSignForTwo)
@@ -139,8 +154,19 @@ TEST(BoundedPrint, PrintsAZeroForAnIntegerConversion)
 
 TEST(BoundedPrint, PrintsAZeroForAnIntegerOfAnyLength)
 {
-  ExpectRows({{"%hhd", "0"}, {"%hd", "0"}, {"%ld", "0"}, {"%lld", "0"}, {"%jd", "0"}, {"%zu", "0"}, {"%td", "0"},
-              {"%Iu", "0"}, {"%Id", "0"}, {"%I64d", "0"}, {"%I64u", "0"}, {"%I32d", "0"}, {"<%4lu>", "<   0>"}});
+  ExpectRows({{"%hhd", "0"},
+              {"%hd", "0"},
+              {"%ld", "0"},
+              {"%lld", "0"},
+              {"%jd", "0"},
+              {"%zu", "0"},
+              {"%td", "0"},
+              {"%Iu", "0"},
+              {"%Id", "0"},
+              {"%I64d", "0"},
+              {"%I64u", "0"},
+              {"%I32d", "0"},
+              {"<%4lu>", "<   0>"}});
 }
 
 TEST(BoundedPrint, PrintsAZeroForAFloatingConversion)
@@ -167,13 +193,20 @@ TEST(BoundedPrint, PrintsAZeroForAFloatingConversion)
 
 TEST(BoundedPrint, PrintsNothingButTheWidthForATextConversion)
 {
-  ExpectRows({{"%s", ""}, {"<%s>", "<>"}, {"<%4s>", "<    >"}, {"<%-4s>", "<    >"}, {"<%.2s>", "<>"},
-              {"<%4.2s>", "<    >"}, {"<%ls>", "<>"}, {"<%S>", "<>"}});
+  ExpectRows({{"%s", ""},
+              {"<%s>", "<>"},
+              {"<%4s>", "<    >"},
+              {"<%-4s>", "<    >"},
+              {"<%.2s>", "<>"},
+              {"<%4.2s>", "<    >"},
+              {"<%ls>", "<>"},
+              {"<%S>", "<>"}});
 }
 
 TEST(BoundedPrint, EndsAtACharacterConversionWhichPrintsANul)
 {
-  ExpectRows({{"%c", ""}, {"before%cafter", "before"}, {"<%3c>", "<  "}, {"<%-3c>", "<"}, {"<%lc>", "<"}, {"<%C>", "<"}});
+  ExpectRows(
+    {{"%c", ""}, {"before%cafter", "before"}, {"<%3c>", "<  "}, {"<%-3c>", "<"}, {"<%lc>", "<"}, {"<%C>", "<"}});
 }
 
 TEST(BoundedPrint, WritesNothingForN)
@@ -183,30 +216,59 @@ TEST(BoundedPrint, WritesNothingForN)
 
 TEST(BoundedPrint, TakesZeroForAWidthOrPrecisionThatIsAnArgument)
 {
-  ExpectRows({{"<%*d>", "<0>"}, {"<%-*d>", "<0>"}, {"<%*s>", "<>"}, {"<%.*f>", "<0>"}, {"<%.*d>", "<>"},
-              {"<%*.*f>", "<0>"}, {"<%5.*f>", "<    0>"}, {"<%*.1f>", "<0.0>"}});
+  ExpectRows({{"<%*d>", "<0>"},
+              {"<%-*d>", "<0>"},
+              {"<%*s>", "<>"},
+              {"<%.*f>", "<0>"},
+              {"<%.*d>", "<>"},
+              {"<%*.*f>", "<0>"},
+              {"<%5.*f>", "<    0>"},
+              {"<%*.1f>", "<0.0>"}});
 }
 
 TEST(BoundedPrint, FindsConversionsInATextThatWasNeverMeantAsAFormat)
 {
-  ExpectRows({{"50% done", "50 0one"}, {"100%, of it", "100%, of it"}, {"5%fast", "50.000000ast"}, {"a%20group", "a                   0roup"}});
+  ExpectRows({{"50% done", "50 0one"},
+              {"100%, of it", "100%, of it"},
+              {"5%fast", "50.000000ast"},
+              {"a%20group", "a                   0roup"}});
 }
 
 TEST(BoundedPrint, KeepsAPercentSignAtTheEnd)
 {
-  ExpectRows({{"%", "%"}, {"100%", "100%"}, {"%%%", "%%"}, {"100% ", "100% "}, {"%5", "%5"}, {"%-", "%-"}, {"%.", "%."},
-              {"%.3", "%.3"}, {"%l", "%l"}, {"%I64", "%I64"}, {"%*", "%*"}, {"%d%", "0%"}});
+  ExpectRows({{"%", "%"},
+              {"100%", "100%"},
+              {"%%%", "%%"},
+              {"100% ", "100% "},
+              {"%5", "%5"},
+              {"%-", "%-"},
+              {"%.", "%."},
+              {"%.3", "%.3"},
+              {"%l", "%l"},
+              {"%I64", "%I64"},
+              {"%*", "%*"},
+              {"%d%", "0%"}});
 }
 
 TEST(BoundedPrint, KeepsWhatIsNoConversion)
 {
-  ExpectRows({{"%y", "%y"}, {"%!", "%!"}, {"%\n", "%\n"}, {"%\"", "%\""}, {"%5y", "%5y"}, {"%-+ #0y", "%-+ #0y"}, {"%.3y", "%.3y"},
-              {"%lly", "%lly"}, {"%y%d", "%y0"}, {"%5y%%", "%5y%"}, {"%\xff", "%\xff"}});
+  ExpectRows({{"%y", "%y"},
+              {"%!", "%!"},
+              {"%\n", "%\n"},
+              {"%\"", "%\""},
+              {"%5y", "%5y"},
+              {"%-+ #0y", "%-+ #0y"},
+              {"%.3y", "%.3y"},
+              {"%lly", "%lly"},
+              {"%y%d", "%y0"},
+              {"%5y%%", "%5y%"},
+              {"%\xff", "%\xff"}});
 }
 
 TEST(BoundedPrint, PrintsAsTheCLibraryDoesWithZeros)
 {
-  ExpectAsTheCLibrary({"di", {"", "-", "+", " ", "0", "-+", "+0", "- ", " 0"}, kPrecisions, {"", "h", "hh", "l", "ll", "j", "z", "t"}});
+  ExpectAsTheCLibrary(
+    {"di", {"", "-", "+", " ", "0", "-+", "+0", "- ", " 0"}, kPrecisions, {"", "h", "hh", "l", "ll", "j", "z", "t"}});
   ExpectAsTheCLibrary({"u", {"", "-", "0"}, kPrecisions, {"", "h", "hh", "l", "ll", "j", "z", "t"}});
   ExpectAsTheCLibrary({"oxX", {"", "-", "0", "#", "-#", "#0"}, kPrecisions, {"", "h", "hh", "l", "ll"}});
   ExpectAsTheCLibrary({"fFeEgGaA", {"", "-", "+", " ", "0", "#", "-#+", "#+0", "# 0"}, kPrecisions, {"", "l", "L"}});

@@ -145,8 +145,7 @@ TEST(GyreParfileLinks, LinksADvToItsFiltersAndVariables)
   const LoadedJob job;
   const DV_& variable = job.parfile.GetDV_("variable");
   EXPECT_EQ(variable.NumFILTER_(), 2U);
-  EXPECT_THAT(variable.GetFILTER_(),
-              ElementsAre(&job.parfile.GetFILTER_("fine"), &job.parfile.GetFILTER_("coarse")));
+  EXPECT_THAT(variable.GetFILTER_(), ElementsAre(&job.parfile.GetFILTER_("fine"), &job.parfile.GetFILTER_("coarse")));
   EXPECT_EQ(variable.NumDV_(), 2U);
   EXPECT_THAT(variable.GetDV_(), ElementsAre(&variable, &job.parfile.GetDV_("other")));
   const DV_& other = job.parfile.GetDV_("other");
@@ -270,8 +269,7 @@ TEST(GyreParfileLinks, LinksTheShapeSettingsToTheirFilters)
   const LoadedJob job;
   const AS_SHAPE_SENS_& settings = job.parfile.GetAS_SHAPE_SENS_("settings");
   EXPECT_EQ(settings.NumFILTER_(), 2U);
-  EXPECT_THAT(settings.GetFILTER_(),
-              ElementsAre(&job.parfile.GetFILTER_("coarse"), &job.parfile.GetFILTER_("fine")));
+  EXPECT_THAT(settings.GetFILTER_(), ElementsAre(&job.parfile.GetFILTER_("coarse"), &job.parfile.GetFILTER_("fine")));
 }
 
 TEST(GyreParfileLinks, ResolvesAReferenceToAKindThatIsLoadedLater)
@@ -435,8 +433,7 @@ TEST(GyreParfileLinks, ReadsOnlyTheFirstValueOfASingleAndOfAnOptionalReference)
 
 TEST(GyreParfileLinks, LooksForTheEmptyIdWhereTheStorageDeliversNothingForASingleReference)
 {
-  for (const char* key :
-       {"DV_", "OPT_PARAM_", "STOP_", "PRE_PARAM_", "AS_TOPO_OC_", "AS_TOPO_SENS_", "AS_SHAPE_SENS_"})
+  for (const char* key : {"DV_", "OPT_PARAM_", "STOP_", "PRE_PARAM_", "AS_TOPO_OC_", "AS_TOPO_SENS_", "AS_SHAPE_SENS_"})
   {
     RecordingStorage job = CompleteJob();
     job.Command("ALGO_", "algorithm").erase(key);
@@ -506,8 +503,9 @@ TEST(GyreParfileLinks, MakesListsLongerThanTheirCountInASecondLoad)
   const DV_& first = job.parfile.GetDV_(1);
   EXPECT_EQ(first.NumFILTER_(), 2U);
   EXPECT_THAT(IdsOf(first.GetFILTER_()), ElementsAre("fine", "coarse", "fine", "coarse"));
-  EXPECT_EQ(FailureOf([&] { first.GetFILTER_(3); }).message,
-            "Invalid index 3 of the parameterfile value FILTER_ to retrieve from DV_. Number of available values is 2.");
+  EXPECT_EQ(
+    FailureOf([&] { first.GetFILTER_(3); }).message,
+    "Invalid index 3 of the parameterfile value FILTER_ to retrieve from DV_. Number of available values is 2.");
   const DV_& second = job.parfile.GetDV_(3);
   EXPECT_EQ(second.GetID_NAME_(), "variable");
   EXPECT_EQ(second.NumFILTER_(), 2U);

@@ -64,7 +64,8 @@ Calls CommandCountsAt(const Calls& calls, std::size_t failing)
   const std::size_t second_pass = std::find(calls.begin(), calls.end(), kFirstCallOfTheSecondPass) - calls.begin();
   std::string kind;
   std::uint64_t count = 0;
-  const auto end_kind = [&] {
+  const auto end_kind = [&]
+  {
     if (count != 0)
     {
       counts.push_back(kind + " " + std::to_string(count));
@@ -92,15 +93,17 @@ Calls CommandCountsAt(const Calls& calls, std::size_t failing)
 void QueryEverything(const Gyre_Parfile& parfile)
 {
   const CapturedLog log;
-  ForEachManyKind([&](const auto& kind) {
-    const auto commands = (parfile.*kind.all)();
-    for (std::uint64_t index = 1; index <= commands.size(); ++index)
+  ForEachManyKind(
+    [&](const auto& kind)
     {
-      ASSERT_EQ(&(parfile.*kind.by_index)(index), commands[index - 1]);
-      ASSERT_TRUE((parfile.*kind.has)(commands[index - 1]->GetID_NAME_()));
-      commands[index - 1]->ToString();
-    }
-  });
+      const auto commands = (parfile.*kind.all)();
+      for (std::uint64_t index = 1; index <= commands.size(); ++index)
+      {
+        ASSERT_EQ(&(parfile.*kind.by_index)(index), commands[index - 1]);
+        ASSERT_TRUE((parfile.*kind.has)(commands[index - 1]->GetID_NAME_()));
+        commands[index - 1]->ToString();
+      }
+    });
 }
 
 const Failure kNoFailure{"nothing was thrown", "", ""};
@@ -131,39 +134,38 @@ TEST(GyreParfileLoad, WalksTheKindsInTheirOrderAndTheCommandsOfAKindFromPosition
   RecordingStorage storage = CompleteJob();
   Gyre_Parfile parfile(storage);
   parfile.Load();
-  EXPECT_THAT(WalkOver(storage),
-              ElementsAre("GetNumCommand(MODEL_)", "GetCommandName(MODEL_, 0)",                   //
-                          "GetNumCommand(ELEMENT_GROUP_)", "GetCommandName(ELEMENT_GROUP_, 0)",   //
-                          "GetNumCommand(FACE_GROUP_)", "GetCommandName(FACE_GROUP_, 0)",         //
-                          "GetNumCommand(NODE_GROUP_)", "GetCommandName(NODE_GROUP_, 0)",         //
-                          "GetNumCommand(DV_)", "GetCommandName(DV_, 0)",                         //
-                          "GetCommandName(DV_, 1)",                                               //
-                          "GetNumCommand(DRESP_)", "GetCommandName(DRESP_, 0)",                   //
-                          "GetCommandName(DRESP_, 1)",                                            //
-                          "GetNumCommand(OPERATOR_)", "GetCommandName(OPERATOR_, 0)",             //
-                          "GetCommandName(OPERATOR_, 1)",                                         //
-                          "GetNumCommand(OBJ_FUNC_)", "GetCommandName(OBJ_FUNC_, 0)",             //
-                          "GetNumCommand(CONSTRAINT_)", "GetCommandName(CONSTRAINT_, 0)",         //
-                          "GetCommandName(CONSTRAINT_, 1)",                                       //
-                          "GetNumCommand(CS_)", "GetCommandName(CS_, 0)",                         //
-                          "GetNumCommand(DV_CONSTRAINT_)", "GetCommandName(DV_CONSTRAINT_, 0)",   //
-                          "GetCommandName(DV_CONSTRAINT_, 1)",                                    //
-                          "GetNumCommand(MONITOR_)", "GetCommandName(MONITOR_, 0)",               //
-                          "GetNumCommand(ALGO_)", "GetCommandName(ALGO_, 0)",                     //
-                          "GetNumCommand(OPT_PARAM_)", "GetCommandName(OPT_PARAM_, 0)",           //
-                          "GetNumCommand(STOP_)", "GetCommandName(STOP_, 0)",                     //
-                          "GetNumCommand(MESH_SMOOTH_)", "GetCommandName(MESH_SMOOTH_, 0)",       //
-                          "GetCommandName(MESH_SMOOTH_, 1)",                                      //
-                          "GetNumCommand(FILTER_)", "GetCommandName(FILTER_, 0)",                 //
-                          "GetCommandName(FILTER_, 1)",                                           //
-                          "GetNumCommand(PRE_PARAM_)", "GetCommandName(PRE_PARAM_, 0)",           //
-                          "GetNumCommand(AS_TOPO_OC_)", "GetCommandName(AS_TOPO_OC_, 0)",         //
-                          "GetNumCommand(AS_TOPO_SENS_)", "GetCommandName(AS_TOPO_SENS_, 0)",     //
-                          "GetNumCommand(AS_SHAPE_SENS_)", "GetCommandName(AS_SHAPE_SENS_, 0)",   //
-                          "GetNumCommand(FLOWPATHS_)", "GetCommandName(FLOWPATHS_, 0)",           //
-                          "GetNumCommand(OUTPUT_)", "GetCommandName(OUTPUT_, 0)",                 //
-                          "GetNumCommand(SCALING_CURVE_)", "GetCommandName(SCALING_CURVE_, 0)",   //
-                          "GetNumCommand(SMOOTH_)", "GetCommandName(SMOOTH_, 0)"));
+  EXPECT_THAT(WalkOver(storage), ElementsAre("GetNumCommand(MODEL_)", "GetCommandName(MODEL_, 0)",                  //
+                                             "GetNumCommand(ELEMENT_GROUP_)", "GetCommandName(ELEMENT_GROUP_, 0)",  //
+                                             "GetNumCommand(FACE_GROUP_)", "GetCommandName(FACE_GROUP_, 0)",        //
+                                             "GetNumCommand(NODE_GROUP_)", "GetCommandName(NODE_GROUP_, 0)",        //
+                                             "GetNumCommand(DV_)", "GetCommandName(DV_, 0)",                        //
+                                             "GetCommandName(DV_, 1)",                                              //
+                                             "GetNumCommand(DRESP_)", "GetCommandName(DRESP_, 0)",                  //
+                                             "GetCommandName(DRESP_, 1)",                                           //
+                                             "GetNumCommand(OPERATOR_)", "GetCommandName(OPERATOR_, 0)",            //
+                                             "GetCommandName(OPERATOR_, 1)",                                        //
+                                             "GetNumCommand(OBJ_FUNC_)", "GetCommandName(OBJ_FUNC_, 0)",            //
+                                             "GetNumCommand(CONSTRAINT_)", "GetCommandName(CONSTRAINT_, 0)",        //
+                                             "GetCommandName(CONSTRAINT_, 1)",                                      //
+                                             "GetNumCommand(CS_)", "GetCommandName(CS_, 0)",                        //
+                                             "GetNumCommand(DV_CONSTRAINT_)", "GetCommandName(DV_CONSTRAINT_, 0)",  //
+                                             "GetCommandName(DV_CONSTRAINT_, 1)",                                   //
+                                             "GetNumCommand(MONITOR_)", "GetCommandName(MONITOR_, 0)",              //
+                                             "GetNumCommand(ALGO_)", "GetCommandName(ALGO_, 0)",                    //
+                                             "GetNumCommand(OPT_PARAM_)", "GetCommandName(OPT_PARAM_, 0)",          //
+                                             "GetNumCommand(STOP_)", "GetCommandName(STOP_, 0)",                    //
+                                             "GetNumCommand(MESH_SMOOTH_)", "GetCommandName(MESH_SMOOTH_, 0)",      //
+                                             "GetCommandName(MESH_SMOOTH_, 1)",                                     //
+                                             "GetNumCommand(FILTER_)", "GetCommandName(FILTER_, 0)",                //
+                                             "GetCommandName(FILTER_, 1)",                                          //
+                                             "GetNumCommand(PRE_PARAM_)", "GetCommandName(PRE_PARAM_, 0)",          //
+                                             "GetNumCommand(AS_TOPO_OC_)", "GetCommandName(AS_TOPO_OC_, 0)",        //
+                                             "GetNumCommand(AS_TOPO_SENS_)", "GetCommandName(AS_TOPO_SENS_, 0)",    //
+                                             "GetNumCommand(AS_SHAPE_SENS_)", "GetCommandName(AS_SHAPE_SENS_, 0)",  //
+                                             "GetNumCommand(FLOWPATHS_)", "GetCommandName(FLOWPATHS_, 0)",          //
+                                             "GetNumCommand(OUTPUT_)", "GetCommandName(OUTPUT_, 0)",                //
+                                             "GetNumCommand(SCALING_CURVE_)", "GetCommandName(SCALING_CURVE_, 0)",  //
+                                             "GetNumCommand(SMOOTH_)", "GetCommandName(SMOOTH_, 0)"));
 }
 
 TEST(GyreParfileLoad, LetsEachCommandReadItsKeysBeforeTheNextCommandIsNamed)
@@ -179,28 +181,24 @@ TEST(GyreParfileLoad, LetsEachCommandReadItsKeysBeforeTheNextCommandIsNamed)
   const Calls first_pass = FirstPassOf(storage);
   EXPECT_THAT(Calls(first_pass.begin(), first_pass.begin() + 8),
               ElementsAre("GetNumCommand(MODEL_)", "GetCommandName(MODEL_, 0)",
-                          "GetValue(MODEL_, model, FILE_, 1, vtmString, string)",
-                          "HasElement(MODEL_, model, SOLVER_)", "GetNumCommand(ELEMENT_GROUP_)",
-                          "GetNumCommand(FACE_GROUP_)", "GetNumCommand(NODE_GROUP_)", "GetNumCommand(DV_)"));
+                          "GetValue(MODEL_, model, FILE_, 1, vtmString, string)", "HasElement(MODEL_, model, SOLVER_)",
+                          "GetNumCommand(ELEMENT_GROUP_)", "GetNumCommand(FACE_GROUP_)", "GetNumCommand(NODE_GROUP_)",
+                          "GetNumCommand(DV_)"));
   const auto cs = std::find(first_pass.begin(), first_pass.end(), "GetNumCommand(CS_)");
   ASSERT_GE(first_pass.end() - cs, 24);
-  EXPECT_THAT(Calls(cs, cs + 24),
-              ElementsAre("GetNumCommand(CS_)", "GetCommandName(CS_, 0)", "GetEnumValue(CS_, axes, TYPE_, 1, vtmEnum)",
-                          "HasElement(CS_, axes, X_ORIGIN_)", "HasElement(CS_, axes, Y_ORIGIN_)",
-                          "HasElement(CS_, axes, Z_ORIGIN_)", "GetValue(CS_, axes, X_VEC1_, 1, vtmDouble, double)",
-                          "GetValue(CS_, axes, Y_VEC1_, 1, vtmDouble, double)",
-                          "GetValue(CS_, axes, Z_VEC1_, 1, vtmDouble, double)",
-                          "GetValue(CS_, axes, X_VEC2_, 1, vtmDouble, double)",
-                          "GetValue(CS_, axes, Y_VEC2_, 1, vtmDouble, double)",
-                          "GetValue(CS_, axes, Z_VEC2_, 1, vtmDouble, double)",
-                          "GetValue(CS_, axes, X_VEC3_, 1, vtmDouble, double)",
-                          "GetValue(CS_, axes, Y_VEC3_, 1, vtmDouble, double)",
-                          "GetValue(CS_, axes, Z_VEC3_, 1, vtmDouble, double)", "GetNumCommand(DV_CONSTRAINT_)",
-                          "GetNumCommand(MONITOR_)", "GetCommandName(MONITOR_, 0)", "GetCommandName(MONITOR_, 1)",
-                          "GetNumCommand(ALGO_)", "GetCommandName(ALGO_, 0)",
-                          "GetEnumValue(ALGO_, algorithm, STRATEGY_, 1, vtmEnum)",
-                          "GetEnumValue(ALGO_, algorithm, DEVELOPER_OUTPUT_, 1, vtmEnum)",
-                          "GetNumCommand(OPT_PARAM_)"));
+  EXPECT_THAT(
+    Calls(cs, cs + 24),
+    ElementsAre(
+      "GetNumCommand(CS_)", "GetCommandName(CS_, 0)", "GetEnumValue(CS_, axes, TYPE_, 1, vtmEnum)",
+      "HasElement(CS_, axes, X_ORIGIN_)", "HasElement(CS_, axes, Y_ORIGIN_)", "HasElement(CS_, axes, Z_ORIGIN_)",
+      "GetValue(CS_, axes, X_VEC1_, 1, vtmDouble, double)", "GetValue(CS_, axes, Y_VEC1_, 1, vtmDouble, double)",
+      "GetValue(CS_, axes, Z_VEC1_, 1, vtmDouble, double)", "GetValue(CS_, axes, X_VEC2_, 1, vtmDouble, double)",
+      "GetValue(CS_, axes, Y_VEC2_, 1, vtmDouble, double)", "GetValue(CS_, axes, Z_VEC2_, 1, vtmDouble, double)",
+      "GetValue(CS_, axes, X_VEC3_, 1, vtmDouble, double)", "GetValue(CS_, axes, Y_VEC3_, 1, vtmDouble, double)",
+      "GetValue(CS_, axes, Z_VEC3_, 1, vtmDouble, double)", "GetNumCommand(DV_CONSTRAINT_)", "GetNumCommand(MONITOR_)",
+      "GetCommandName(MONITOR_, 0)", "GetCommandName(MONITOR_, 1)", "GetNumCommand(ALGO_)", "GetCommandName(ALGO_, 0)",
+      "GetEnumValue(ALGO_, algorithm, STRATEGY_, 1, vtmEnum)",
+      "GetEnumValue(ALGO_, algorithm, DEVELOPER_OUTPUT_, 1, vtmEnum)", "GetNumCommand(OPT_PARAM_)"));
 }
 
 TEST(GyreParfileLoad, ReadsOnlyTheKeysOfTheCommandThatWasNamedLast)
@@ -285,9 +283,8 @@ TEST(GyreParfileLoad, FailsAtOnceWithoutAModelAndCreatesNothing)
 {
   RecordingStorage storage = JobWithCount("MODEL_", 0);
   Gyre_Parfile parfile(storage);
-  EXPECT_EQ(FailureOf([&] { parfile.Load(); }),
-            (Failure{"0 commands of type MODEL_ detected. Only one is expected.", "204046270608",
-                     "[%T|%n|%P|OrvelCommands|Gyre_Parfile] "}));
+  EXPECT_EQ(FailureOf([&] { parfile.Load(); }), (Failure{"0 commands of type MODEL_ detected. Only one is expected.",
+                                                         "204046270608", "[%T|%n|%P|OrvelCommands|Gyre_Parfile] "}));
   EXPECT_THAT(CommandCounts(parfile), IsEmpty());
   EXPECT_THAT(storage.Calls(), ElementsAre("GetNumCommand(MODEL_)"));
 }
@@ -296,9 +293,8 @@ TEST(GyreParfileLoad, FailsAtOnceWithTwoModelsAndCreatesNothing)
 {
   RecordingStorage storage = JobWithCount("MODEL_", 2);
   Gyre_Parfile parfile(storage);
-  EXPECT_EQ(FailureOf([&] { parfile.Load(); }),
-            (Failure{"2 commands of type MODEL_ detected. Only one is expected.", "204046270608",
-                     "[%T|%n|%P|OrvelCommands|Gyre_Parfile] "}));
+  EXPECT_EQ(FailureOf([&] { parfile.Load(); }), (Failure{"2 commands of type MODEL_ detected. Only one is expected.",
+                                                         "204046270608", "[%T|%n|%P|OrvelCommands|Gyre_Parfile] "}));
   EXPECT_THAT(CommandCounts(parfile), IsEmpty());
   EXPECT_THAT(storage.Calls(), ElementsAre("GetNumCommand(MODEL_)"));
 }
@@ -329,8 +325,7 @@ TEST(GyreParfileLoad, FailsWithAWrongCountOfAlgorithmsWhenTheirTurnComes)
                        "204046270608", "[%T|%n|%P|OrvelCommands|Gyre_Parfile] "}));
     EXPECT_THAT(CommandCounts(parfile),
                 ElementsAre("MODEL_ 1", "ELEMENT_GROUP_ 1", "FACE_GROUP_ 1", "NODE_GROUP_ 1", "DV_ 2", "DRESP_ 2",
-                            "OPERATOR_ 2", "OBJ_FUNC_ 1", "CONSTRAINT_ 2", "CS_ 1", "DV_CONSTRAINT_ 2",
-                            "MONITOR_ 1"));
+                            "OPERATOR_ 2", "OBJ_FUNC_ 1", "CONSTRAINT_ 2", "CS_ 1", "DV_CONSTRAINT_ 2", "MONITOR_ 1"));
     EXPECT_EQ(storage.Calls().back(), "GetNumCommand(ALGO_)");
   }
 }
@@ -346,9 +341,9 @@ TEST(GyreParfileLoad, FailsWithAWrongCountOfFlowPathsWhenTheirTurnComes)
                        "204046270608", "[%T|%n|%P|OrvelCommands|Gyre_Parfile] "}));
     EXPECT_THAT(CommandCounts(parfile),
                 ElementsAre("MODEL_ 1", "ELEMENT_GROUP_ 1", "FACE_GROUP_ 1", "NODE_GROUP_ 1", "DV_ 2", "DRESP_ 2",
-                            "OPERATOR_ 2", "OBJ_FUNC_ 1", "CONSTRAINT_ 2", "CS_ 1", "DV_CONSTRAINT_ 2",
-                            "MONITOR_ 1", "ALGO_ 1", "OPT_PARAM_ 1", "STOP_ 1", "MESH_SMOOTH_ 2", "FILTER_ 2",
-                            "PRE_PARAM_ 1", "AS_TOPO_OC_ 1", "AS_TOPO_SENS_ 1", "AS_SHAPE_SENS_ 1"));
+                            "OPERATOR_ 2", "OBJ_FUNC_ 1", "CONSTRAINT_ 2", "CS_ 1", "DV_CONSTRAINT_ 2", "MONITOR_ 1",
+                            "ALGO_ 1", "OPT_PARAM_ 1", "STOP_ 1", "MESH_SMOOTH_ 2", "FILTER_ 2", "PRE_PARAM_ 1",
+                            "AS_TOPO_OC_ 1", "AS_TOPO_SENS_ 1", "AS_SHAPE_SENS_ 1"));
     EXPECT_EQ(storage.Calls().back(), "GetNumCommand(FLOWPATHS_)");
   }
 }
@@ -390,9 +385,8 @@ TEST(GyreParfileLoad, FailsInTheSecondPassWithOnlyTheFourRequiredCommands)
     storage.Command(kind, "only");
   }
   Gyre_Parfile parfile(storage);
-  EXPECT_EQ(FailureOf([&] { parfile.Load(); }),
-            (Failure{"Invalid ID  of the parameter file command DV_", "161700240908",
-                     "[%T|%n|%P|OrvelCommands|Gyre_Parfile] "}));
+  EXPECT_EQ(FailureOf([&] { parfile.Load(); }), (Failure{"Invalid ID  of the parameter file command DV_",
+                                                         "161700240908", "[%T|%n|%P|OrvelCommands|Gyre_Parfile] "}));
   EXPECT_EQ(storage.Calls().back(), "GetReference(ALGO_, only, DV_, 1)");
   EXPECT_THAT(CommandCounts(parfile), ElementsAre("MODEL_ 1", "OBJ_FUNC_ 1", "ALGO_ 1", "FLOWPATHS_ 1"));
 }
@@ -462,8 +456,8 @@ TEST(GyreParfileLoad, LeavesACommandOutThatCouldNotBeNamed)
   storage.FailOn("GetCommandName(DRESP_, 1)");
   Gyre_Parfile parfile(storage);
   EXPECT_THROW(parfile.Load(), FailedOnDemand);
-  EXPECT_THAT(CommandCounts(parfile), ElementsAre("MODEL_ 1", "ELEMENT_GROUP_ 1", "FACE_GROUP_ 1", "NODE_GROUP_ 1",
-                                                  "DV_ 2", "DRESP_ 1"));
+  EXPECT_THAT(CommandCounts(parfile),
+              ElementsAre("MODEL_ 1", "ELEMENT_GROUP_ 1", "FACE_GROUP_ 1", "NODE_GROUP_ 1", "DV_ 2", "DRESP_ 1"));
 }
 
 TEST(GyreParfileLoad, LeavesACommandOutWhoseOwnLoadFails)
@@ -534,8 +528,7 @@ TEST(GyreParfileLoad, AppendsToWhatAFailedLoadLeft)
   Gyre_Parfile parfile(storage);
   EXPECT_THROW(parfile.Load(), KLV_Failure);
   storage.Command("FLOWPATHS_", "paths");
-  EXPECT_EQ(FailureOf([&] { parfile.Load(); }).message,
-            "2 commands of type OBJ_FUNC_ detected. Only one is expected.");
+  EXPECT_EQ(FailureOf([&] { parfile.Load(); }).message, "2 commands of type OBJ_FUNC_ detected. Only one is expected.");
   EXPECT_EQ(parfile.NumDV_(), 4U);
   EXPECT_EQ(parfile.GetFLOWPATHS_().GetID_NAME_(), "paths");
 }

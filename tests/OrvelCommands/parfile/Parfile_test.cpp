@@ -1,8 +1,8 @@
 #include "OrvelCommands/parfile/Gyre_Parfile.h"
 #include "OrvelCommands/parfile/Parfile.h"
 #include "OrvelCommands/parfile/Smooth_Parfile.h"
-#include "support/VirtualSlot.h"
 #include "support/complete_job.h"
+#include "support/VirtualSlot.h"
 
 #include <gmock/gmock.h>
 

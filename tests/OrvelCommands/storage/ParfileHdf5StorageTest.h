@@ -3,8 +3,8 @@
 #pragma once
 
 #include "OrvelCommands/storage/ParfileHdf5Storage.h"
-#include "support/TemporaryFolder.h"
 #include "support/plain_hdf5.h"
+#include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -85,8 +85,7 @@ inline std::vector<int> IntegersOf(const OrvelParfileStorage& storage, const std
   return value;
 }
 
-inline std::vector<double> DoublesOf(const OrvelParfileStorage& storage, const std::string& key,
-                                     std::uint64_t index)
+inline std::vector<double> DoublesOf(const OrvelParfileStorage& storage, const std::string& key, std::uint64_t index)
 {
   std::vector<double> value{-4.7, -1.1};
   storage.GetValue("DV_", "porosity", key, index, vtmDoubleList, value);

@@ -177,8 +177,7 @@ TEST_F(ParfileHdf5StorageFailures, OfADatasetInPlaceOfAKind)
   std::string name = "kept";
   EXPECT_THAT(FailureOf([&] { storage.AddCommand("DV_", "porosity"); }),
               IsDatabaseFailure(kNoCommandGroup, "185546010612"));
-  EXPECT_THAT(FailureOf([&] { storage.GetNumCommand("DV_"); }),
-              IsDatabaseFailure(kNoSuchCommandSize, "185548010612"));
+  EXPECT_THAT(FailureOf([&] { storage.GetNumCommand("DV_"); }), IsDatabaseFailure(kNoSuchCommandSize, "185548010612"));
   EXPECT_THAT(FailureOf([&] { storage.HasCommand("DV_", "porosity"); }),
               IsDatabaseFailure(kNoSuchCommandSize, "185548010612"));
   EXPECT_THAT(FailureOf([&] { storage.GetCommandName("DV_", 0, name); }),
@@ -251,8 +250,7 @@ TEST_F(ParfileHdf5StorageFailures, OfAKindWhoseMembersCannotBeRead)
   std::string name = "kept";
   EXPECT_THAT(FailureOf([&] { storage.HasCommand("DV_", "porosity"); }),
               IsDatabaseFailure(kNoSuchCommandSize, "185548010612"));
-  EXPECT_THAT(FailureOf([&] { storage.GetNumCommand("DV_"); }),
-              IsDatabaseFailure(kNoSuchCommandSize, "185548010612"));
+  EXPECT_THAT(FailureOf([&] { storage.GetNumCommand("DV_"); }), IsDatabaseFailure(kNoSuchCommandSize, "185548010612"));
   EXPECT_THAT(FailureOf([&] { storage.GetCommandName("DV_", 0, name); }),
               IsDatabaseFailure(kNoSuchCommandName, "185548060612"));
   EXPECT_THAT(FailureOf([&] { storage.HasElement("DV_", "porosity", "TYPE_"); }),
@@ -268,7 +266,8 @@ TEST_F(ParfileHdf5StorageFailures, OfAKindWhoseMembersCannotBeRead)
 TEST_F(ParfileHdf5StorageFailures, OfAKeyWithMoreElementsThanHdf5Counts)
 {
   StorageWithCommand();
-  plain_hdf5::MakeChunked("/PARFILE/DV_/porosity/COUNT_", H5T_NATIVE_INT, {hsize_t{1} << 32, hsize_t{1} << 31}, nullptr);
+  plain_hdf5::MakeChunked("/PARFILE/DV_/porosity/COUNT_", H5T_NATIVE_INT, {hsize_t{1} << 32, hsize_t{1} << 31},
+                          nullptr);
   const ParfileHdf5Storage storage;
   EXPECT_EQ(Hdf5ExceptionOf([&] { CountOf(storage, "COUNT_"); }), "DataSpaceIException");
   EXPECT_THAT(FailureOf([&] { storage.AddValue("DV_", "porosity", "COUNT_", vtmInteger, 5); }),

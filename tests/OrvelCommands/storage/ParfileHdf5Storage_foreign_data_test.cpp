@@ -57,8 +57,7 @@ void ExpectNoWriteSucceeds(const OrvelParfileStorage& storage)
   EXPECT_THAT(FailureOf([&] { storage.SetValue("DV_", "porosity", "KEY_", 1, vtmInteger, 5); }), IsWriteFailure());
   EXPECT_THAT(FailureOf([&] { storage.SetValue("DV_", "porosity", "KEY_", 9, vtmInteger, 5); }), IsWriteFailure());
   EXPECT_THAT(FailureOf([&] { storage.AddValue("DV_", "porosity", "KEY_", vtmInteger, 5); }), IsWriteFailure());
-  EXPECT_THAT(FailureOf([&] { storage.AddReference("DV_", "porosity", "KEY_", "DV_", "porosity"); }),
-              IsWriteFailure());
+  EXPECT_THAT(FailureOf([&] { storage.AddReference("DV_", "porosity", "KEY_", "DV_", "porosity"); }), IsWriteFailure());
 }
 
 }  // namespace
@@ -258,6 +257,29 @@ TEST_F(ParfileHdf5StorageForeignData, FollowsAReferenceThatAnotherProgramMade)
   EXPECT_EQ(ReferenceOf(storage, "KEY_", 1), "fine");
   EXPECT_EQ(ReferenceOf(storage, "KEY_", 2), "DV_");
   EXPECT_EQ(ReferenceOf(storage, "KEY_", 3), "");
+}
+
+TEST_F(ParfileHdf5StorageForeignData, FollowsAReferenceFromAKeyWhoseKindIsNoGroup)
+{
+  plain_hdf5::MakeGroup("/PARFILE/CS_");
+  plain_hdf5::MakeGroup("/PARFILE/CS_/axis");
+  plain_hdf5::MakeKey("/PARFILE/FILTER_", H5T_NATIVE_INT, 1, nullptr);
+  plain_hdf5::MakeSoftLink("/PARFILE/STOP_", "/PARFILE/nowhere");
+  plain_hdf5::MakeReferences("/PARFILE/DV_/porosity/FILTER_", {"/PARFILE/CS_/axis"});
+  plain_hdf5::MakeReferences("/PARFILE/DV_/porosity/STOP_", {"/PARFILE/CS_/axis"});
+  const ParfileHdf5Storage storage = ReadOnlyStorage();
+  EXPECT_EQ(ReferenceOf(storage, "FILTER_", 1), "axis");
+  EXPECT_EQ(ReferenceOf(storage, "STOP_", 1), "axis");
+}
+
+TEST_F(ParfileHdf5StorageForeignData, GivesTheNameOfATargetAndNotOfALinkToIt)
+{
+  plain_hdf5::MakeGroup("/PARFILE/CS_");
+  plain_hdf5::MakeGroup("/PARFILE/CS_/axis");
+  plain_hdf5::MakeGroup("/PARFILE/FILTER_");
+  plain_hdf5::MakeSoftLink("/PARFILE/FILTER_/alias", "/PARFILE/CS_/axis");
+  plain_hdf5::MakeReferences("/PARFILE/DV_/porosity/FILTER_", {"/PARFILE/FILTER_/alias"});
+  EXPECT_EQ(ReferenceOf(ReadOnlyStorage(), "FILTER_", 1), "axis");
 }
 
 TEST_F(ParfileHdf5StorageForeignData, RefusesAReferenceThatIsNotSet)

@@ -105,9 +105,9 @@ TEST_F(ParfileHdf5StorageRead, TellsCommandsOfAKindApartByTheirWholeNames)
 TEST_F(ParfileHdf5StorageRead, FailsToLookForACommandOfAKindWithoutGroup)
 {
   const ParfileHdf5Storage storage = StorageWithCommand();
-  EXPECT_THAT(FailureOf([&] { storage.HasCommand("STOP_", "porosity"); }),
-              IsDatabaseFailure("Failed to retrieve command size info from the optimization database.",
-                                "185548010612"));
+  EXPECT_THAT(
+    FailureOf([&] { storage.HasCommand("STOP_", "porosity"); }),
+    IsDatabaseFailure("Failed to retrieve command size info from the optimization database.", "185548010612"));
 }
 
 TEST_F(ParfileHdf5StorageRead, NamesCommandsInTheByteOrderOfTheirNames)
@@ -181,10 +181,10 @@ TEST_F(ParfileHdf5StorageRead, FailsToLookForAKeyOfAnAbsentCommand)
     SCOPED_TRACE(command);
     const auto look = [&, c = std::string(command), i = std::string(id)] { storage.HasElement(c, i, "TYPE_"); };
     const auto count = [&, c = std::string(command), i = std::string(id)] { storage.GetNumElements(c, i, "TYPE_"); };
-    EXPECT_THAT(FailureOf(look), IsDatabaseFailure(
-      "Failed to retrieve value size info from the optimization database.", "185548060612"));
-    EXPECT_THAT(FailureOf(count), IsDatabaseFailure(
-      "Failed to value size info from the optimization database.", "185548060612"));
+    EXPECT_THAT(FailureOf(look), IsDatabaseFailure("Failed to retrieve value size info from the optimization database.",
+                                                   "185548060612"));
+    EXPECT_THAT(FailureOf(count),
+                IsDatabaseFailure("Failed to value size info from the optimization database.", "185548060612"));
   }
 }
 
@@ -267,14 +267,10 @@ TEST_F(ParfileHdf5StorageRead, FailsWhereHdf5CannotConvertAndKeepsTheOutput)
   std::vector<int> integers{1, 2};
   EXPECT_THAT(FailureOf([&] { storage.GetValue("DV_", "porosity", "FIELD_", 1, vtmInteger, integer); }),
               IsReadFailure());
-  EXPECT_THAT(FailureOf([&] { storage.GetValue("DV_", "porosity", "LIST_", 1, vtmDouble, number); }),
-              IsReadFailure());
-  EXPECT_THAT(FailureOf([&] { storage.GetValue("DV_", "porosity", "COUNT_", 1, vtmString, text); }),
-              IsReadFailure());
-  EXPECT_THAT(FailureOf([&] { storage.GetValue("DV_", "porosity", "LIST_", 1, vtmString, text); }),
-              IsReadFailure());
-  EXPECT_THAT(FailureOf([&] { storage.GetValue("DV_", "porosity", "DV_", 1, vtmInteger, integer); }),
-              IsReadFailure());
+  EXPECT_THAT(FailureOf([&] { storage.GetValue("DV_", "porosity", "LIST_", 1, vtmDouble, number); }), IsReadFailure());
+  EXPECT_THAT(FailureOf([&] { storage.GetValue("DV_", "porosity", "COUNT_", 1, vtmString, text); }), IsReadFailure());
+  EXPECT_THAT(FailureOf([&] { storage.GetValue("DV_", "porosity", "LIST_", 1, vtmString, text); }), IsReadFailure());
+  EXPECT_THAT(FailureOf([&] { storage.GetValue("DV_", "porosity", "DV_", 1, vtmInteger, integer); }), IsReadFailure());
   EXPECT_THAT(FailureOf([&] { storage.GetValue("DV_", "porosity", "FIELD_", 1, vtmIntegerList, integers); }),
               IsReadFailure());
   EXPECT_EQ(integer, 5);
@@ -294,15 +290,13 @@ TEST_F(ParfileHdf5StorageRead, RefusesATypeThatTheOutputCannotTakeAndKeepsTheOut
   std::vector<double> numbers{0.25};
   for (const VtmType type : {vtmDouble, vtmString, vtmModelId, vtmIntegerList, vtmDoubleList})
   {
-    EXPECT_THAT(FailureOf([&] { storage.GetValue("DV_", "porosity", "COUNT_", 1, type, integer); }),
-                IsReadFailure());
+    EXPECT_THAT(FailureOf([&] { storage.GetValue("DV_", "porosity", "COUNT_", 1, type, integer); }), IsReadFailure());
     EXPECT_THAT(FailureOf([&] { storage.GetEnumValue("DV_", "porosity", "TYPE_", 1, type, integer); }),
                 IsReadFailure());
   }
   for (const VtmType type : {vtmInteger, vtmEnum, vtmString, vtmModelId, vtmIntegerList, vtmDoubleList})
   {
-    EXPECT_THAT(FailureOf([&] { storage.GetValue("DV_", "porosity", "INITIAL_", 1, type, number); }),
-                IsReadFailure());
+    EXPECT_THAT(FailureOf([&] { storage.GetValue("DV_", "porosity", "INITIAL_", 1, type, number); }), IsReadFailure());
   }
   for (const VtmType type : {vtmInteger, vtmEnum, vtmDouble, vtmIntegerList, vtmDoubleList})
   {
@@ -310,13 +304,11 @@ TEST_F(ParfileHdf5StorageRead, RefusesATypeThatTheOutputCannotTakeAndKeepsTheOut
   }
   for (const VtmType type : {vtmInteger, vtmEnum, vtmDouble, vtmString, vtmModelId, vtmDoubleList})
   {
-    EXPECT_THAT(FailureOf([&] { storage.GetValue("DV_", "porosity", "LIST_", 1, type, integers); }),
-                IsReadFailure());
+    EXPECT_THAT(FailureOf([&] { storage.GetValue("DV_", "porosity", "LIST_", 1, type, integers); }), IsReadFailure());
   }
   for (const VtmType type : {vtmInteger, vtmEnum, vtmDouble, vtmString, vtmModelId, vtmIntegerList})
   {
-    EXPECT_THAT(FailureOf([&] { storage.GetValue("DV_", "porosity", "CUTOFF_", 1, type, numbers); }),
-                IsReadFailure());
+    EXPECT_THAT(FailureOf([&] { storage.GetValue("DV_", "porosity", "CUTOFF_", 1, type, numbers); }), IsReadFailure());
   }
   EXPECT_EQ(integer, 5);
   EXPECT_EQ(number, 0.5);
@@ -368,8 +360,7 @@ TEST_F(ParfileHdf5StorageRead, FailsOnAnAbsentKeyWhateverTheType)
 TEST_F(ParfileHdf5StorageRead, FailsOnAnAbsentCommandAndKeepsTheOutput)
 {
   const ParfileHdf5Storage storage = StorageWithCommand();
-  const auto is_failure =
-    IsDatabaseFailure("Failed to add value in the optimization database.", "172756040612");
+  const auto is_failure = IsDatabaseFailure("Failed to add value in the optimization database.", "172756040612");
   int integer = 5;
   double number = 0.5;
   std::string text = "kept";
@@ -430,6 +421,44 @@ TEST_F(ParfileHdf5StorageRead, GivesTheNameOfAReferencedCommandWithoutItsKind)
   EXPECT_EQ(ReferenceOf(storage, "MIXED_", 3), "a filter");
 }
 
+TEST_F(ParfileHdf5StorageRead, GivesTheNameOfACommandOfAnotherKindThanItsKeySays)
+{
+  const ParfileHdf5Storage storage = StorageWithCommand();
+  storage.AddCommand("FILTER_", "fine");
+  storage.AddCommand("CS_", "axis");
+  storage.AddReference("DV_", "porosity", "FILTER_", "CS_", "axis");
+  storage.AddReference("DV_", "porosity", "FILTER_", "FILTER_", "fine");
+  storage.AddReference("DV_", "porosity", "FILTER_", "DV_", "porosity");
+  EXPECT_EQ(ReferenceOf(storage, "FILTER_", 1), "axis");
+  EXPECT_EQ(ReferenceOf(storage, "FILTER_", 2), "fine");
+  EXPECT_EQ(ReferenceOf(storage, "FILTER_", 3), "porosity");
+}
+
+TEST_F(ParfileHdf5StorageRead, GivesTheLastPartOfATargetWithASlashInItsName)
+{
+  const ParfileHdf5Storage storage = StorageWithCommand();
+  storage.AddCommand("FILTER_", "fine");
+  storage.AddCommand("FILTER_", "fine/inner");
+  storage.AddReference("DV_", "porosity", "FILTER_", "FILTER_", "fine/inner");
+  EXPECT_EQ(ReferenceOf(storage, "FILTER_", 1), "inner");
+}
+
+TEST_F(ParfileHdf5StorageRead, GivesTheTargetsOfManyReferences)
+{
+  const ParfileHdf5Storage storage = StorageWithCommand();
+  for (int i = 100; i < 400; ++i)
+  {
+    storage.AddCommand("FILTER_", std::to_string(i));
+  }
+  for (int i = 399; i >= 100; --i)
+  {
+    storage.AddReference("DV_", "porosity", "FILTER_", "FILTER_", std::to_string(i));
+  }
+  EXPECT_EQ(ReferenceOf(storage, "FILTER_", 1), "399");
+  EXPECT_EQ(ReferenceOf(storage, "FILTER_", 150), "250");
+  EXPECT_EQ(ReferenceOf(storage, "FILTER_", 300), "100");
+}
+
 TEST_F(ParfileHdf5StorageRead, GivesALongNameOfAReferencedCommand)
 {
   const ParfileHdf5Storage storage = StorageWithCommand();
@@ -444,8 +473,7 @@ TEST_F(ParfileHdf5StorageRead, FailsToReadAReferenceThatIsAbsent)
   const ParfileHdf5Storage storage = StorageWithCommand();
   AddKeys(storage);
   std::string target = "kept";
-  const auto is_failure =
-    IsDatabaseFailure("Failed to write reference in the optimization database.", "172740050612");
+  const auto is_failure = IsDatabaseFailure("Failed to write reference in the optimization database.", "172740050612");
   EXPECT_THAT(FailureOf([&] { storage.GetReference("DV_", "porosity", "FILTER_", 1, target); }), is_failure);
   EXPECT_THAT(FailureOf([&] { storage.GetReference("DV_", "absent", "DV_", 1, target); }), is_failure);
   EXPECT_THAT(FailureOf([&] { storage.GetReference("STOP_", "porosity", "DV_", 1, target); }), is_failure);

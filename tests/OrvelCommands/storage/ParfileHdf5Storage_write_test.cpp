@@ -37,10 +37,14 @@ void ExpectKeyShape(const std::string& key, hsize_t extent, const std::string& t
   EXPECT_EQ(plain_hdf5::TypeOf(path), type);
 }
 
-constexpr VtmType kTypesWithoutValue[] = {vtmIdName,      vtmReference,
-                                          vtmSelect,      vtmComplexType,
-                                          vtmUnknown,     static_cast<VtmType>(12),
-                                          static_cast<VtmType>(-1), static_cast<VtmType>(1000)};
+constexpr VtmType kTypesWithoutValue[] = {vtmIdName,
+                                          vtmReference,
+                                          vtmSelect,
+                                          vtmComplexType,
+                                          vtmUnknown,
+                                          static_cast<VtmType>(12),
+                                          static_cast<VtmType>(-1),
+                                          static_cast<VtmType>(1000)};
 
 }  // namespace
 
@@ -85,8 +89,7 @@ TEST_F(ParfileHdf5StorageWrite, PrintsARefusedNameAsItStandsAndCutsALongOne)
   storage.AddCommand("DV_", long_name);
   EXPECT_EQ(FailureOf([&] { storage.AddCommand("DV_", "100%s%n%d"); }).message,
             "The ID_NAME 100%s%n%d is already used. Please check your parameterfile");
-  EXPECT_EQ(FailureOf([&] { storage.AddCommand("DV_", long_name); }).message,
-            "The ID_NAME " + std::string(1011, 'x'));
+  EXPECT_EQ(FailureOf([&] { storage.AddCommand("DV_", long_name); }).message, "The ID_NAME " + std::string(1011, 'x'));
 }
 
 TEST_F(ParfileHdf5StorageWrite, MakesOneMoreLevelForASlashInAName)
@@ -228,8 +231,7 @@ TEST_F(ParfileHdf5StorageWrite, AppendsNothingForATypeWithoutValue)
 TEST_F(ParfileHdf5StorageWrite, MakesNoCommandForAValue)
 {
   const ParfileHdf5Storage storage = StorageWithCommand();
-  const auto is_failure =
-    IsDatabaseFailure("Failed to add value in the optimization database.", "172758040612");
+  const auto is_failure = IsDatabaseFailure("Failed to add value in the optimization database.", "172758040612");
   EXPECT_THAT(FailureOf([&] { storage.AddValue("DV_", "absent", "K_", vtmDoubleList, std::vector<double>{0.5}); }),
               is_failure);
   EXPECT_THAT(FailureOf([&] { storage.AddValue("DV_", "absent", "K_", vtmIntegerList, std::vector<int>{5}); }),
@@ -441,8 +443,7 @@ TEST_F(ParfileHdf5StorageWrite, RefusesToOverwriteWithATypeThatTheValueCannotBeS
   storage.AddValue("DV_", "porosity", "FIELD_", vtmString, kText);
   storage.AddValue("DV_", "porosity", "COUNT_", vtmInteger, 3);
   EXPECT_THAT(FailureOf([&] { storage.SetValue("DV_", "porosity", "FIELD_", 9, vtmString, 5); }), IsWriteFailure());
-  EXPECT_THAT(FailureOf([&] { storage.SetValue("DV_", "porosity", "FIELD_", 1, vtmString, 0.5); }),
-              IsWriteFailure());
+  EXPECT_THAT(FailureOf([&] { storage.SetValue("DV_", "porosity", "FIELD_", 1, vtmString, 0.5); }), IsWriteFailure());
   EXPECT_THAT(FailureOf([&] { storage.SetValue("DV_", "porosity", "COUNT_", 1, vtmInteger, kText); }),
               IsWriteFailure());
   EXPECT_THAT(FailureOf([&] { storage.SetValue("DV_", "porosity", "COUNT_", 1, vtmEnum, 0.5); }), IsWriteFailure());
@@ -530,8 +531,7 @@ TEST_F(ParfileHdf5StorageWrite, LooksForTheTargetBeforeTheCommandThatRefersToIt)
             StorageFailure("A command of type DV_ with the ID_NAME level referenced in the parameterfile is not found\n"
                            "  The command is reference from the STOP_ command with ID_NAME absent",
                            ""));
-  const auto is_failure =
-    IsDatabaseFailure("Failed to write reference in the optimization database.", "172740050612");
+  const auto is_failure = IsDatabaseFailure("Failed to write reference in the optimization database.", "172740050612");
   EXPECT_THAT(FailureOf([&] { storage.AddReference("STOP_", "absent", "DV_", "DV_", "porosity"); }), is_failure);
   EXPECT_THAT(FailureOf([&] { storage.AddReference("DV_", "absent", "DV_", "DV_", "porosity"); }), is_failure);
 }

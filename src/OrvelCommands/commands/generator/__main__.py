@@ -5,7 +5,7 @@ import difflib
 import sys
 from pathlib import Path
 
-from outputs import COMMAND_LINE, GENERATED, make_outputs
+from outputs import COMMAND_LINE, GENERATED, GENERATOR, TemplateError, make_outputs
 from table import TableError, read_tables
 
 LIBRARY = Path(__file__).resolve().parents[2]
@@ -13,9 +13,10 @@ TABLES = ("gyre_commands", "smooth_commands")
 
 
 def stale_files(library, outputs):
-    """Files of the generated folder that no table gives any more."""
-    return [path for path in sorted((library / GENERATED).glob("*"))
-            if path.suffix in (".h", ".cpp") and f"{GENERATED}/{path.name}" not in outputs]
+    """Names of files in the generated folder or with our banner that no table gives any more."""
+    names = (path.relative_to(library).as_posix() for path in sorted(library.rglob("*")) if path.suffix in (".h", ".cpp"))
+    return [name for name in names if name not in outputs and (
+        name.startswith(GENERATED) or f" by {GENERATOR}." in (library / name).read_text(encoding="utf-8"))]
 
 
 def write(library, outputs):
@@ -25,9 +26,9 @@ def write(library, outputs):
         if not path.exists() or path.read_text(encoding="utf-8") != text:
             path.write_text(text, encoding="utf-8")
             print(f"written: {name}")
-    for path in stale_files(library, outputs):
-        path.unlink()
-        print(f"removed: {GENERATED}/{path.name}")
+    for name in stale_files(library, outputs):
+        (library / name).unlink()
+        print(f"removed: {name}")
 
 
 def check(library, outputs):
@@ -39,8 +40,8 @@ def check(library, outputs):
         diff = list(difflib.unified_diff(present.splitlines(True), text.splitlines(True), name, "from the tables"))
         sys.stdout.writelines(diff)
         differs = differs or bool(diff)
-    for path in stale_files(library, outputs):
-        print(f"{GENERATED}/{path.name} follows from no table")
+    for name in stale_files(library, outputs):
+        print(f"{name} follows from no table")
         differs = True
     if differs:
         print(f"The generated files do not follow from the tables. Mend with: {COMMAND_LINE}")
@@ -56,10 +57,10 @@ def main():
     options = parser.parse_args()
     try:
         tables = read_tables([options.library / "commands" / f"{name}.toml" for name in TABLES])
-    except (TableError, OSError) as error:
+        outputs = make_outputs(tables)
+    except (TableError, TemplateError, OSError) as error:
         print(error, file=sys.stderr)
         return 2
-    outputs = make_outputs(tables)
     if options.check:
         return 1 if check(options.library, outputs) else 0
     write(options.library, outputs)

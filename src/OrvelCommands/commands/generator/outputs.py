@@ -14,9 +14,18 @@ BANNER = Template("/// Generated from $tables by $generator. Do not edit: change
                   "/// the table and run `$command_line`.")
 
 
+class TemplateError(Exception):
+    """A wrong template. The text names the file and what is wrong."""
+
+
 def fill(template, **values):
-    """The text of a template file. An unknown placeholder raises KeyError."""
-    return Template((TEMPLATES / template).read_text(encoding="utf-8")).substitute(values)
+    """The text of a template file. An unknown or broken placeholder raises TemplateError."""
+    try:
+        return Template((TEMPLATES / template).read_text(encoding="utf-8")).substitute(values)
+    except KeyError as error:
+        raise TemplateError(f"templates/{template}: there is no value for the placeholder {error}") from error
+    except ValueError as error:
+        raise TemplateError(f"templates/{template}: {error}") from error
 
 
 def banner(*tables):
@@ -78,12 +87,11 @@ class AggregateText:
         self.commands = commands
         self.linked = [text for text in commands if text.links(aggregate.class_name)]
 
-    def each(self, template, commands=None):
+    def each(self, template):
         """One copy of a template for each command: `<template>_one` or `<template>_any`, by its count."""
         return "".join(
             fill(f"{template}_{text.command.count}.tmpl", aggregate=self.aggregate.class_name,
-                 class_name=text.command.class_name, doc=text.command.doc)
-            for text in (self.commands if commands is None else commands))
+                 class_name=text.command.class_name, doc=text.command.doc) for text in self.commands)
 
     def every(self, template, commands):
         return "".join(
@@ -132,8 +140,12 @@ def make_outputs(tables):
     for aggregate in aggregates:
         outputs[f"parfile/{aggregate.aggregate.class_name}.h"] = aggregate.header()
         outputs[f"parfile/{aggregate.aggregate.class_name}.cpp"] = aggregate.source()
-    outputs.update(_all_aggregates("ResolveReferences.h", "link_declaration.h.tmpl", tables, aggregates, True))
-    outputs.update(_all_aggregates("ResolveReferences.cpp", "link_definition.cpp.tmpl", tables, aggregates, True))
+    linking = [aggregate for aggregate in aggregates if aggregate.linked]
+    for name, template in (("ResolveReferences.h", "link_declaration.h.tmpl"),
+                           ("ResolveReferences.cpp", "link_definition.cpp.tmpl")):
+        outputs[f"parfile/{name}"] = fill(
+            f"{name}.tmpl", banner=banner(*tables), includes=_aggregate_includes(linking),
+            functions="".join(aggregate.every(template, aggregate.linked) for aggregate in linking))
     outputs["parfile/for_each_command.h"] = fill(
         "for_each_command.h.tmpl", banner=banner(*tables), includes=_aggregate_includes(aggregates),
         functions="".join(fill("for_each_aggregate.h.tmpl", aggregate=a.aggregate.class_name,
@@ -148,13 +160,6 @@ def _aggregate(table, tables, texts):
 
 def _aggregate_includes(aggregates):
     return "".join(f'#include "OrvelCommands/parfile/{a.aggregate.class_name}.h"\n' for a in aggregates)
-
-
-def _all_aggregates(name, template, tables, aggregates, linked_only):
-    linking = [a for a in aggregates if a.linked]
-    functions = "".join(a.every(template, a.linked) for a in linking)
-    return {f"parfile/{name}": fill(f"{name}.tmpl", banner=banner(*tables), includes=_aggregate_includes(linking),
-                                    functions=functions)}
 
 
 def _schema_data(tables, texts):

@@ -16,6 +16,7 @@ EXTRA_COLUMN = {"model_id": "ids", "enum": "enumerators", "reference": "target"}
 CLASS_PATTERN = re.compile(r"[A-Z][A-Z0-9]*(_[A-Z0-9]+)*_")
 NAME_PATTERN = re.compile(r"[A-Z][A-Z0-9]*(_[A-Z0-9]+)*")
 SET_PATTERN = re.compile(r"[a-z][a-z0-9]*(_[a-z0-9]+)*")
+AGGREGATE_PATTERN = re.compile(r"[A-Z][A-Za-z0-9]*(_[A-Za-z0-9]+)*")
 
 
 class TableError(Exception):
@@ -88,9 +89,15 @@ class _Place:
 
     def take_text(self, row, column):
         text = self.take(row, column, str, "a text that is not empty")
-        if not text.isprintable() or '"' in text:
-            self.fail(f"{column} must be one line without double quotes, not {text!r}")
+        if not text.isprintable() or not text.strip():
+            self.fail(f"{column} must be one line that is not blank, not {text!r}")
         return text
+
+    def take_doc(self, row):
+        doc = self.take_text(row, "doc")
+        if '"' in doc or "\\" in doc or not doc.endswith("."):
+            self.fail(f"doc must be a sentence without double quotes and backslashes, not {doc!r}")
+        return doc
 
     def take_choice(self, row, column, choices):
         value = self.take_text(row, column)
@@ -105,6 +112,8 @@ class _Place:
         return value
 
     def allow_only(self, row, columns):
+        if not isinstance(row, dict):
+            self.fail(f"here must stand a table with the columns {', '.join(columns)}, not {row!r}")
         for column in row:
             if column not in columns:
                 self.fail(f"there is no column {column}; the columns are {', '.join(columns)}")
@@ -122,32 +131,45 @@ def read_tables(paths):
     tables = tuple(_read_table(Path(path)) for path in paths)
     place = _Place("command tables")
     place.require_unique((c.class_name for t in tables for c in t.commands), "the class")
+    place.require_unique((c.text_name for t in tables for c in t.commands), "the text name")
     place.require_unique((t.aggregate.class_name for t in tables), "the aggregate")
-    names = {table.name for table in tables}
-    classes = {command.class_name for table in tables for command in table.commands}
     for table in tables:
-        table_place = _Place(f"{table.name}.toml")
-        for also in table.aggregate.also:
-            if also not in names:
-                table_place.within("aggregate").fail(f"also names the unknown table {also}")
-        for command in table.commands:
+        _check_aggregate(table, tables)
+    return tables
+
+
+def _check_aggregate(table, tables):
+    """An aggregate holds the commands of known tables, and with each command all that it refers to."""
+    place = _Place(f"{table.name}.toml", "aggregate")
+    place.require_unique((table.name, *table.aggregate.also), "also: the table")
+    by_name = {one.name: one for one in tables}
+    for also in table.aggregate.also:
+        if also not in by_name:
+            place.fail(f"also names the unknown table {also}")
+    members = [by_name[name] for name in (table.name, *table.aggregate.also)]
+    classes = {command.class_name for member in members for command in member.commands}
+    for member in members:
+        for command in member.commands:
             for field in command.fields:
                 if field.target and field.target not in classes:
-                    table_place.within(command.class_name).within(field.key).fail(
-                        f"target names the unknown class {field.target}")
-    return tables
+                    known = any(c.class_name == field.target for one in tables for c in one.commands)
+                    _Place(f"{member.name}.toml", command.class_name, field.key).fail(
+                        f"target names the class {field.target}, which {table.aggregate.class_name} does not hold"
+                        if known else f"target names the unknown class {field.target}")
 
 
 def _read_table(path):
     place = _Place(path.name)
     try:
         data = tomllib.loads(path.read_text(encoding="utf-8"))
-    except tomllib.TOMLDecodeError as error:
+    except (tomllib.TOMLDecodeError, UnicodeDecodeError) as error:
         place.fail(error)
     place.allow_only(data, ("log_source", "aggregate", "enumerators", "command"))
     aggregate = _read_aggregate(place.within("aggregate"), place.take(data, "aggregate", dict, "a table"))
-    sets = {name: _read_set(place.within(f"enumerators.{name}"), name, rows)
-            for name, rows in data.get("enumerators", {}).items()}
+    rows_of_sets = data.get("enumerators", {})
+    if not isinstance(rows_of_sets, dict):
+        place.fail(f"enumerators must be a table of sets, not {rows_of_sets!r}")
+    sets = {name: _read_set(place.within(f"enumerators.{name}"), name, rows) for name, rows in rows_of_sets.items()}
     commands = tuple(_read_command(place, path.stem, row, sets)
                      for row in place.take(data, "command", list, "a list of commands"))
     used = {field.enumerators.name for c in commands for field in c.fields if field.enumerators}
@@ -160,7 +182,7 @@ def _read_table(path):
 def _read_aggregate(place, row):
     place.allow_only(row, ("class", "also", "doc"))
     also = place.take(row, "also", list, "a list of tables")
-    return Aggregate(place.take_text(row, "class"), tuple(also), place.take_text(row, "doc"))
+    return Aggregate(place.take_name(row, "class", AGGREGATE_PATTERN), tuple(also), place.take_doc(row))
 
 
 def _read_set(place, name, rows):
@@ -178,23 +200,30 @@ def _read_set(place, name, rows):
 
 
 def _read_command(place, source, row, sets):
-    place = place.within(str(row.get("class", "a command without class")))
+    name = row.get("class", "a command without class") if isinstance(row, dict) else "a command"
+    place = place.within(str(name))
     place.allow_only(row, ("class", "text_name", "count", "log_line", "doc", "fields"))
     fields = tuple(_read_field(place, field, sets)
                    for field in place.take(row, "fields", list, "a list of rows"))
+    if not fields:
+        place.fail("a command has at least one field")
     place.require_unique((field.key for field in fields), "the key")
     log_line = place.take(row, "log_line", int, "a line number")
+    if log_line < 1:
+        place.fail(f"log_line must be a line number, not {log_line}")
     return Command(
         class_name=place.take_name(row, "class", CLASS_PATTERN),
         text_name=place.take_name(row, "text_name", NAME_PATTERN),
         count=place.take_choice(row, "count", COUNTS),
         log_line=log_line,
-        doc=place.take_text(row, "doc"),
+        doc=place.take_doc(row),
         fields=fields,
         source=source)
 
 
 def _read_field(place, row, sets):
+    if not isinstance(row, dict):
+        place.fail(f"a row of fields must be a table, not {row!r}")
     place = place.within(str(row.get("key", "a row without key")))
     key = place.take_name(row, "key", CLASS_PATTERN)
     if key == "ID_NAME_":
@@ -205,7 +234,7 @@ def _read_field(place, row, sets):
         place.fail("a list that is one value cannot be repeated")
     extra = EXTRA_COLUMN.get(value_type)
     place.allow_only(row, ("key", "type", "presence", "doc") + ((extra,) if extra else ()))
-    doc = place.take_text(row, "doc")
+    doc = place.take_doc(row)
     if extra == "ids":
         return Field(key, value_type, presence, doc, ids=place.take_choice(row, extra, ID_TYPES))
     if extra == "target":
