@@ -154,9 +154,9 @@ bool FindLinkTo(const H5::Group& parfile, const std::string& kind, hobj_ref_t ob
 std::string PathOf(const H5::Group& group)
 {
   const ssize_t length = H5Iget_name(group.getId(), nullptr, 0);
-  if (length < 0)
+  if (length <= 0)  // 0 for a group that has been removed
   {
-    throw H5::IdComponentException("ParfileHdf5Storage", "H5Iget_name failed");
+    throw H5::IdComponentException("ParfileHdf5Storage::GetReference", "the target of the reference has no name");
   }
   std::vector<char> path(static_cast<std::size_t>(length) + 1);
   H5Iget_name(group.getId(), path.data(), path.size());

@@ -78,7 +78,7 @@ public:
   /// Throws: "185548060612" for an absent kind and for a position not below the count.
   void GetCommandName(const std::string& command, std::uint64_t position, std::string& id_name) const override;
 
-  /// Throws: "172740050612" for an absent kind, id name or key and for an element that refers to no group;
+  /// Throws: "172740050612" for an absent kind, id name or key and for an element that refers to no group or to one that was removed;
   /// "134746060612" for an index past the end and for a key that holds no references.
   void GetReference(const std::string& command, const std::string& id_name, const std::string& key,
                     std::uint64_t index, std::string& target_id_name) const override;
@@ -111,7 +111,8 @@ public:
   /// Throws: "160046060612" for an absent key, "172757040612" for an absent kind or id name, "172740040612" where the
   /// element cannot be written and for a \p type that \p value cannot be stored as.
   ///
-  /// \warning Index 0 removes all values of the key and then fails in the writing.
+  /// \warning Index 0 removes all values of the key and then fails in the writing. A negative index fails in the writing
+  /// too and leaves a key that HDF5 cannot open again.
   /// @{
   void SetValue(const std::string& command, const std::string& id_name, const std::string& key, int index,
                 VtmType type, const std::vector<double>& value) const override;
