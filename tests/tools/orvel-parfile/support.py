@@ -18,6 +18,10 @@ ROOT = pathlib.Path(__file__).resolve().parents[3]
 EXAMPLES = ROOT / "examples"
 FILE_NAME = "parfile_storage.hdf5"
 
+if not os.environ.get("ORVEL_PARFILE"):
+    raise SystemExit("the environment variable ORVEL_PARFILE must name the tool")
+TOOL = os.path.abspath(os.environ["ORVEL_PARFILE"])
+
 GOOD = 0
 FAULTS = 1
 UNUSABLE = 2
@@ -37,9 +41,6 @@ class ToolTest(unittest.TestCase):
     maxDiff = None
 
     def setUp(self):
-        if "ORVEL_PARFILE" not in os.environ:
-            self.fail("the environment variable ORVEL_PARFILE must name the tool")
-        self.program = os.path.abspath(os.environ["ORVEL_PARFILE"])
         temporary = tempfile.TemporaryDirectory(prefix="orvel-parfile-test-")
         self.addCleanup(temporary.cleanup)
         self.folder = pathlib.Path(temporary.name).resolve() / "work"
@@ -50,7 +51,7 @@ class ToolTest(unittest.TestCase):
     def tool(self, *arguments, **options):
         """Runs the tool. Whatever it does, HDF5's own report must not show and no scratch file may stay."""
         run = subprocess.run(
-            [self.program, *map(str, arguments)], cwd=options.pop("cwd", self.folder), stdin=subprocess.DEVNULL,
+            [TOOL, *map(str, arguments)], cwd=options.pop("cwd", self.folder), stdin=subprocess.DEVNULL,
             stdout=options.pop("stdout", subprocess.PIPE), stderr=subprocess.PIPE, timeout=120,
             env={**os.environ, "TMPDIR": str(self.scratch)}, check=False, **options)
         result = Result(run.returncode, (run.stdout or b"").decode(), run.stderr.decode())

@@ -5,6 +5,8 @@
 /// the table and run `./run generate`.
 #pragma once
 
+#include "OrvelCommands/commands/command_schema_types.h"
+
 namespace orvel::schema::data
 {
 
