@@ -13,6 +13,7 @@
 
 #include <iostream>
 #include <memory>
+#include <optional>
 
 namespace
 {
@@ -20,7 +21,7 @@ namespace
 struct Options
 {
   std::string file = ".";
-  std::string model_ids;
+  std::optional<std::string> model_ids;
   std::string job = kGyreJob;
 };
 
@@ -43,47 +44,67 @@ void NoteFailure(std::vector<std::string>& faults, Stage stage)
   }
 }
 
-void CheckParfile(const Options& options, const std::filesystem::path& path, std::vector<std::string> faults)
+// The database that the model ids are checked against.
+struct Model
 {
+  explicit Model(const std::optional<std::string>& file) : is_known(file.has_value())
+  {
+    known_ids = file ? ReadModelIds(*file, database) : 0;
+    OrvelDbInstance::s_Singleton = &database;
+  }
+  ~Model() { OrvelDbInstance::s_Singleton = nullptr; }
+  Model(const Model&) = delete;
+  Model& operator=(const Model&) = delete;
+
+  bool is_known;
   KLV_Database database;
-  const std::size_t known_ids = options.model_ids.empty() ? 0 : ReadModelIds(options.model_ids, database);
-  OrvelDbInstance::s_Singleton = &database;
+  std::size_t known_ids = 0;
+};
+
+void PrintVerdict(const Options& options, const Model& model, const OrvelParfileStorage& storage)
+{
+  std::cout << options.file << " is good: " << AsText(CountContents(storage)) << "\n";
+  if (model.is_known)
+  {
+    std::cout << "model ids checked against " << model.known_ids << " names of " << *options.model_ids << "\n";
+  }
+  else
+  {
+    std::cout << "model ids not checked: give the names that the model knows with --model-ids\n";
+  }
+}
+
+void CheckParfile(const Options& options, const Model& model, const std::filesystem::path& path,
+                  std::vector<std::string> faults)
+{
   const auto storage = OpenParameterFile(path);
   WithParfile(options.job, *storage, [&](auto& parfile) {
     NoteFailure(faults, [&] {
       parfile.Load();
-      if (!options.model_ids.empty())
+      if (model.is_known)
       {
         parfile.ValidateModelIds();
       }
     });
   });
-  OrvelDbInstance::s_Singleton = nullptr;
   if (!faults.empty())
   {
     throw FaultyInput(faults);
   }
-  std::cout << options.file << " is good: " << AsText(CountContents(*storage)) << "\n";
-  if (options.model_ids.empty())
-  {
-    std::cout << "model ids not checked: give the names that the model knows with --model-ids\n";
-  }
-  else
-  {
-    std::cout << "model ids checked against " << known_ids << " names of " << options.model_ids << "\n";
-  }
+  PrintVerdict(options, model, *storage);
 }
 
 void Check(const Options& options)
 {
+  const Model model(options.model_ids);
   if (!IsJobDescription(options.file))
   {
-    CheckParfile(options, ParameterFilePath(options.file), {});
+    CheckParfile(options, model, ParameterFilePath(options.file), {});
     return;
   }
   NewParameterFile scratch(std::filesystem::temp_directory_path() / PARFILE_STORAGE_FILE);
   std::vector<std::string> faults = scratch.Fill(ReadJobDescription(options.file));
-  CheckParfile(options, scratch.Path(), std::move(faults));
+  CheckParfile(options, model, scratch.Path(), std::move(faults));
 }
 
 }  // namespace

@@ -2,11 +2,13 @@
 
 #include "exit_code.h"
 #include "nearest_name.h"
+#include "schema_names.h"
 #include "toml_input.h"
 
 #include <toml++/toml.h>
 
 #include <algorithm>
+#include <cctype>
 #include <limits>
 #include <optional>
 
@@ -50,26 +52,44 @@ std::optional<std::string> AsText(const toml::node& node)
   return text && text->find('\0') == std::string::npos ? text : std::nullopt;
 }
 
-// By name, else by letter, else by number.
+// Most enumerations have the codes of letters as their numbers.
+bool HaveLetters(schema::Rows<schema::Enumerator> enumerators)
+{
+  return std::all_of(enumerators.begin(), enumerators.end(), [](const schema::Enumerator& enumerator) {
+    return enumerator.value == '_' || (enumerator.value < 128 && std::isalpha(enumerator.value) != 0);
+  });
+}
+
+bool IsEnumerator(const toml::node& node, const schema::Enumerator& enumerator, bool by_letter)
+{
+  const auto text = node.value_exact<std::string_view>();
+  const bool is_letter = by_letter && text && text->size() == 1 && text->front() == enumerator.value;
+  return enumerator.name == text || is_letter || AsInteger(node) == enumerator.value;
+}
+
 std::optional<int> AsEnumerator(const toml::node& node, schema::Rows<schema::Enumerator> enumerators)
 {
-  const auto name = node.value_exact<std::string_view>();
-  const auto number = AsInteger(node);
+  const bool by_letter = HaveLetters(enumerators);
   for (const schema::Enumerator& enumerator : enumerators)
   {
-    if (enumerator.name == name || enumerator.value == number)
-    {
-      return enumerator.value;
-    }
-  }
-  for (const schema::Enumerator& enumerator : enumerators)
-  {
-    if (name && name->size() == 1 && enumerator.value == name->front())
+    if (IsEnumerator(node, enumerator, by_letter))
     {
       return enumerator.value;
     }
   }
   return std::nullopt;
+}
+
+// The names that a group of the file can have: others would mean another place in it.
+bool IsId(const std::string& text)
+{
+  return !text.empty() && text != "." && text.find('/') == std::string::npos && text.find('\0') == std::string::npos;
+}
+
+std::optional<std::string> AsId(const toml::node& node)
+{
+  auto text = node.value_exact<std::string>();
+  return text && IsId(*text) ? text : std::nullopt;
 }
 
 template <class Item, class Read>
@@ -108,33 +128,9 @@ std::optional<JobValue> ReadValue(const toml::node& node, const schema::Field& f
     case vtmEnum: return AsJobValue(AsEnumerator(node, field.enumerators));
     case vtmIntegerList: return AsJobValue(AsList<int>(node, AsInteger));
     case vtmDoubleList: return AsJobValue(AsList<double>(node, AsDouble));
+    case vtmReference: return AsJobValue(AsId(node));
     default: return AsJobValue(AsText(node));
   }
-}
-
-template <class Row, class Name>
-std::vector<std::string> NamesOf(schema::Rows<Row> rows, Name name)
-{
-  std::vector<std::string> names;
-  for (const Row& row : rows)
-  {
-    names.emplace_back(name(row));
-  }
-  return names;
-}
-
-// A table keeps its members by name; people expect faults, and files, in the order of the text.
-std::vector<std::pair<std::string, const toml::node*>> InTextOrder(const toml::table& table)
-{
-  std::vector<std::pair<std::string, const toml::node*>> members;
-  for (const auto& [key, node] : table)
-  {
-    members.emplace_back(key.str(), &node);
-  }
-  std::stable_sort(members.begin(), members.end(), [](const auto& one, const auto& other) {
-    return one.second->source().begin < other.second->source().begin;
-  });
-  return members;
 }
 
 class JobReader
@@ -159,15 +155,14 @@ public:
 private:
   std::string PlaceOf(const toml::node& node) const { return PlaceText(m_path, node.source()); }
 
-  void Fault(const std::string& place, const std::string& what) { m_faults.push_back(place + ": " + what); }
+  void Fault(const std::string& place, const std::string& what) { m_faults.push_back(place + ": " + Printable(what)); }
 
   void ReadKind(const std::string& name, const toml::node& node)
   {
     const schema::Command* kind = schema::FindCommand(name);
     if (kind == nullptr)
     {
-      const auto kinds = NamesOf(schema::Commands(), [](const schema::Command& one) { return one.kind; });
-      Fault(PlaceOf(node), "there is no kind of command " + name + "; " + NearestName(name, kinds));
+      Fault(PlaceOf(node), "there is no kind of command " + name + "; " + NearestName(name, KindNames()));
       return;
     }
     if (!node.is_table())
@@ -189,7 +184,7 @@ private:
       Fault(PlaceOf(node), name + " must be a table of keys, [" + std::string(kind.kind) + "." + id + "]");
       return;
     }
-    if (id.empty() || id == "." || id.find('/') != std::string::npos || id.find('\0') != std::string::npos)
+    if (!IsId(id))
     {
       Fault(PlaceOf(node), "the id \"" + id + "\" of a " + std::string(kind.kind) +
                              " cannot stand in a parameter file: an id is not empty, not \".\" and has no \"/\"");
@@ -210,11 +205,10 @@ private:
     const schema::Field* field = schema::FindField(*command.kind, name);
     if (field == nullptr)
     {
-      const auto keys = NamesOf(command.kind->fields, [](const schema::Field& one) { return one.key; });
-      Fault(PlaceOf(node), owner + " has no key " + name + "; " + NearestName(name, keys));
+      Fault(PlaceOf(node), owner + " has no key " + name + "; " + NearestName(name, KeyNames(*command.kind)));
       return;
     }
-    JobKey key{field, {}, PlaceOf(node)};
+    JobKey key{field, {}};
     if (field->presence != schema::Presence::Repeated)
     {
       AddValue(key, owner, node);
@@ -225,7 +219,7 @@ private:
     }
     else
     {
-      Fault(key.place, owner + ": " + name + " holds any number of values and must be an array");
+      Fault(PlaceOf(node), owner + ": " + name + " holds any number of values and must be an array");
     }
     command.keys.push_back(std::move(key));
   }
@@ -234,15 +228,14 @@ private:
   {
     if (auto value = ReadValue(node, *key.field))
     {
-      key.values.push_back(std::move(*value));
+      key.items.push_back({std::move(*value), PlaceOf(node)});
       return;
     }
     std::string fault = owner + ": " + std::string(key.field->key) + " must be " +
                         ExpectedValue(key.field->type) + ", not " + NodeText(node);
     if (!key.field->enumerators.empty())
     {
-      fault += "; " + NearestName(node.value_or(std::string()),
-                                  NamesOf(key.field->enumerators, [](const auto& one) { return one.name; }));
+      fault += "; " + NearestName(node.value_or(std::string()), EnumeratorNames(*key.field));
     }
     Fault(PlaceOf(node), fault);
   }

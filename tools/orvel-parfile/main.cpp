@@ -17,6 +17,16 @@ int Report(const std::string& what, ExitCode code)
   return code;
 }
 
+// Output that is lost is no success.
+ExitCode FlushOutput()
+{
+  if (!std::cout.flush())
+  {
+    throw UnusableInput("the output cannot be written");
+  }
+  return exitGood;
+}
+
 int Run(int argument_count, char** arguments)
 {
   CLI::App tool("Parameter files of an optimization job: make them, check them, look into them.", "orvel-parfile");
@@ -25,15 +35,16 @@ int Run(int argument_count, char** arguments)
   AddImport(tool);
   AddCheck(tool);
   AddShow(tool);
+  AddSchema(tool);
   try
   {
     tool.parse(argument_count, arguments);
   }
   catch (const CLI::ParseError& error)
   {
-    return tool.exit(error) == 0 ? exitGood : exitUnusable;
+    return tool.exit(error) == 0 ? FlushOutput() : exitUnusable;
   }
-  return exitGood;
+  return FlushOutput();
 }
 
 }  // namespace

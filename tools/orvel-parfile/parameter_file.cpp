@@ -62,29 +62,29 @@ void WriteValue(const ParfileHdf5Storage& storage, const JobCommand& command, co
   std::visit([&](const auto& typed) { storage.AddValue(kind, command.id, name, key.field->type, typed); }, value);
 }
 
-void WriteOrNote(const ParfileHdf5Storage& storage, const JobCommand& command, const JobKey& key,
-                 const JobValue& value, std::vector<std::string>& failures)
+void WriteOrNote(const ParfileHdf5Storage& storage, const JobCommand& command, const JobKey& key, const JobItem& item,
+                 std::vector<std::string>& failures)
 {
   try
   {
-    WriteValue(storage, command, key, value);
+    WriteValue(storage, command, key, item.value);
   }
   catch (const KLV_Failure& failure)
   {
-    failures.push_back(key.place + ": " + failure.what());
+    failures.push_back(item.place + ": " + failure.what());
   }
 }
 
 template <class Visit>
-void ForEachValue(const std::vector<JobCommand>& job, Visit visit)
+void ForEachItem(const std::vector<JobCommand>& job, Visit visit)
 {
   for (const JobCommand& command : job)
   {
     for (const JobKey& key : command.keys)
     {
-      for (const JobValue& value : key.values)
+      for (const JobItem& item : key.items)
       {
-        visit(command, key, value);
+        visit(command, key, item);
       }
     }
   }
@@ -94,13 +94,21 @@ void ForEachValue(const std::vector<JobCommand>& job, Visit visit)
 
 fs::path ParameterFilePath(const fs::path& argument)
 {
-  fs::path path = fs::absolute(argument);
+  if (argument.empty())
+  {
+    throw UnusableInput("the path of the parameter file is empty");
+  }
+  fs::path path = fs::absolute(argument).lexically_normal();
   if (fs::is_directory(path))
   {
     return path / PARFILE_STORAGE_FILE;
   }
   if (path.filename() != PARFILE_STORAGE_FILE)
   {
+    if (path.filename().empty())
+    {
+      throw UnusableInput(argument.string() + ": there is no such folder");
+    }
     throw UnusableInput(argument.string() + ": a parameter file must have the name " + PARFILE_STORAGE_FILE);
   }
   return path;
@@ -141,7 +149,14 @@ FolderBeside::~FolderBeside()
 
 NewParameterFile::NewParameterFile(const fs::path& place) : m_place(place), m_folder(place)
 {
-  const H5::H5File empty(Path().string(), H5F_ACC_EXCL);
+  try
+  {
+    const H5::H5File empty(Path().string(), H5F_ACC_EXCL);
+  }
+  catch (const H5::Exception& error)
+  {
+    throw UnusableInput(Path().string() + " cannot be made: " + error.getDetailMsg());
+  }
 }
 
 std::vector<std::string> NewParameterFile::Fill(const std::vector<JobCommand>& job)
@@ -154,10 +169,10 @@ std::vector<std::string> NewParameterFile::Fill(const std::vector<JobCommand>& j
   }
   std::vector<std::string> failures;
   const auto write_keys = [&](bool references) {
-    ForEachValue(job, [&](const JobCommand& command, const JobKey& key, const JobValue& value) {
+    ForEachItem(job, [&](const JobCommand& command, const JobKey& key, const JobItem& item) {
       if ((key.field->type == vtmReference) == references)
       {
-        WriteOrNote(storage, command, key, value, failures);
+        WriteOrNote(storage, command, key, item, failures);
       }
     });
   };

@@ -15,4 +15,5 @@ class App;
 void AddImport(CLI::App& tool);
 void AddCheck(CLI::App& tool);
 void AddShow(CLI::App& tool);
+void AddSchema(CLI::App& tool);
 /// @}

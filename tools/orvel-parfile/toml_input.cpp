@@ -2,7 +2,9 @@
 
 #include "exit_code.h"
 
+#include <algorithm>
 #include <fstream>
+#include <iomanip>
 #include <sstream>
 
 toml::table ReadToml(const std::filesystem::path& path)
@@ -33,4 +35,36 @@ std::string NodeText(const toml::node& node)
   std::ostringstream text;
   node.visit([&](const auto& value) { text << value; });
   return text.str();
+}
+
+std::vector<std::pair<std::string, const toml::node*>> InTextOrder(const toml::table& table)
+{
+  std::vector<std::pair<std::string, const toml::node*>> members;
+  members.reserve(table.size());
+  for (const auto& [key, node] : table)
+  {
+    members.emplace_back(key.str(), &node);
+  }
+  std::stable_sort(members.begin(), members.end(), [](const auto& one, const auto& other) {
+    return one.second->source().begin < other.second->source().begin;
+  });
+  return members;
+}
+
+std::string Printable(const std::string& text)
+{
+  std::ostringstream printable;
+  for (const char character : text)
+  {
+    const auto code = static_cast<unsigned char>(character);
+    if (character != '\n' && (code < 0x20 || code == 0x7f))
+    {
+      printable << "\\u" << std::hex << std::setw(4) << std::setfill('0') << static_cast<unsigned>(code);
+    }
+    else
+    {
+      printable << character;
+    }
+  }
+  return printable.str();
 }

@@ -1,8 +1,8 @@
 /// \file
 /// All command classes of gyre_commands.
 ///
-/// Generated from commands/gyre_commands.toml by src/OrvelCommands/commands/generator. Do not edit: change
-/// the table and run `./run generate`.
+/// Generated from gyre_commands.toml
+/// by src/OrvelCommands/commands/generator. Do not edit: change the table and run `./run generate`.
 #pragma once
 
 #include "OrvelCommands/commands/LocalGenerated/MODEL_.h"

@@ -1,8 +1,8 @@
 /// \file
 /// All command classes of smooth_commands.
 ///
-/// Generated from commands/smooth_commands.toml by src/OrvelCommands/commands/generator. Do not edit: change
-/// the table and run `./run generate`.
+/// Generated from smooth_commands.toml
+/// by src/OrvelCommands/commands/generator. Do not edit: change the table and run `./run generate`.
 #pragma once
 
 #include "OrvelCommands/commands/LocalGenerated/SMOOTH_.h"

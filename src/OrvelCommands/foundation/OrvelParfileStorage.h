@@ -21,10 +21,12 @@
 ///
 /// One value is one unit of its type: a `vtmIntegerList` value is a whole list, so a key can hold several lists.
 /// The `VtmType` of a call says how the caller wants the value treated; the caller keeps it in step with the type of
-/// the argument. The output argument keeps what it held where an operation finds nothing to deliver.
+/// the argument.
 ///
-/// Throws: every operation reports by KLV_Failure alone, never by its result. Which absences are a failure and
-/// which read as nothing is told by each storage; a command that reads a key without asking first depends on it.
+/// Nothing is reported by a result. What a storage itself finds wrong it throws as a KLV_Failure; failures of what it
+/// stands on may pass. Which absences are a failure and which read as nothing is told by each storage, and a command
+/// that reads a key without asking first depends on it. The output argument keeps what it held where nothing is
+/// delivered, unless the storage says otherwise.
 ///
 /// The library reads only. The write half is for modules that fill a storage, a command before its keys and the
 /// target of a reference before the reference; a read-only storage ignores it without a word.

@@ -4,8 +4,8 @@
 
 #include <cstdint>
 
-/// The name of a command, as modules that keep these tables hand it to the database. The library carries the record and
-/// makes none itself.
+/// The name of a command, as a row of the database. The names of the fields tell what the modules that keep
+/// this table agree upon; the library carries the record and reads none of them.
 struct XmlvtmIdname
 {
   /// Describes the row to the database: a letter for each field and one that closes it.

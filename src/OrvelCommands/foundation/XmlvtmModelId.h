@@ -4,8 +4,8 @@
 
 #include <cstdint>
 
-/// A name that a command takes from the model, as modules that keep these tables hand it to the database. The library carries the record and
-/// makes none itself.
+/// A name that a command takes from the model, as a row of the database. The names of the fields tell what the modules that keep
+/// this table agree upon; the library carries the record and reads none of them.
 struct XmlvtmModelId
 {
   /// Describes the row to the database: a letter for each field and one that closes it.

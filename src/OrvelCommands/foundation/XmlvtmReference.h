@@ -4,8 +4,8 @@
 
 #include <cstdint>
 
-/// A reference between two commands, as modules that keep these tables hand it to the database. The library carries the record and
-/// makes none itself.
+/// A reference between two commands, as a row of the database. The names of the fields tell what the modules that keep
+/// this table agree upon; the library carries the record and reads none of them.
 struct XmlvtmReference
 {
   /// Describes the row to the database: a letter for each field and one that closes it.

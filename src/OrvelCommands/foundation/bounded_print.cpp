@@ -4,6 +4,7 @@
 #include <array>
 #include <cstdio>
 #include <cstring>
+#include <iterator>
 #include <optional>
 #include <string_view>
 
@@ -100,14 +101,34 @@ std::optional<Conversion> ParseConversion(const char* at)
   return conversion;
 }
 
+bool IsOneOf(char type, std::string_view types)
+{
+  return types.find(type) != std::string_view::npos;
+}
+
+// printf defines a flag for some conversions only, and what it does with others is not to be relied upon.
+bool TakesFlag(char type, char flag)
+{
+  switch (flag)
+  {
+    case '#': return IsOneOf(type, "oxXeEfFgGaA");
+    case '0': return IsOneOf(type, "diouxXeEfFgGaA");
+    case '+':
+    case ' ': return IsOneOf(type, "dieEfFgGaA");
+    default: return true;
+  }
+}
+
 std::string PrintfFormat(const Conversion& conversion, char type)
 {
-  std::string format = "%" + conversion.flags;
+  std::string format = "%";
+  std::copy_if(conversion.flags.begin(), conversion.flags.end(), std::back_inserter(format),
+               [&](char flag) { return TakesFlag(type, flag); });
   if (conversion.width >= 0)
   {
     format += std::to_string(conversion.width);
   }
-  if (conversion.precision >= 0)
+  if (conversion.precision >= 0 && IsOneOf(type, "diouxXeEfFgGaAs"))
   {
     format += "." + std::to_string(conversion.precision);
   }
@@ -120,7 +141,7 @@ std::string PrintZero(const Conversion& conversion)
   std::array<char, kBoundedPrintLimit + 1> buffer{};
   const auto print = [&](char type, auto zero) {
     const int length = std::snprintf(buffer.data(), buffer.size(), PrintfFormat(conversion, type).c_str(), zero);
-    return std::string(buffer.data(), std::clamp<std::size_t>(length, 0, buffer.size() - 1));
+    return std::string(buffer.data(), std::clamp(length, 0, static_cast<int>(buffer.size()) - 1));
   };
   switch (conversion.type)
   {

@@ -10,8 +10,8 @@
 namespace orvel::detail
 {
 
-/// One argument of BoundedPrint(): an int for `%d`, a 64-bit unsigned for `%Iu`, a text for `%s`. A text is not
-/// owned and must outlive the call.
+/// One argument of BoundedPrint(): an int for `%d`, a 64-bit unsigned for `%Iu`, a text for `%s`. A text is never
+/// null, not owned, and must outlive the call.
 class PrintArgument
 {
 public:
@@ -41,7 +41,7 @@ constexpr std::size_t kBoundedPrintLimit = 1023;
 /// happens to hold a "%" can stand as the format: nothing is ever read that was not passed. `%%` gives "%", `%n`
 /// writes nothing, widths and precisions are limited to 4096, and what is no conversion stays as it stands. As in a C string, a NUL byte (`%c` of a zero) ends the result.
 ///
-/// Cost: linear in the shorter of the format and the limit.
+/// Cost: linear in the format.
 std::string BoundedPrint(const char* format, std::initializer_list<PrintArgument> arguments = {});
 
 }  // namespace orvel::detail

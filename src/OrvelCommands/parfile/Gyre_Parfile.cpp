@@ -1,8 +1,8 @@
 /// \file
 /// The operations of Gyre_Parfile. What each step does stands in command_list.h.
 ///
-/// Generated from commands/gyre_commands.toml and commands/smooth_commands.toml by src/OrvelCommands/commands/generator. Do not edit: change
-/// the table and run `./run generate`.
+/// Generated from gyre_commands.toml and smooth_commands.toml
+/// by src/OrvelCommands/commands/generator. Do not edit: change the table and run `./run generate`.
 #include "OrvelCommands/parfile/Gyre_Parfile.h"
 
 #include "OrvelCommands/parfile/ResolveReferences.h"

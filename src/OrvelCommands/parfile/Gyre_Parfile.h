@@ -1,8 +1,8 @@
 /// \file
 /// The parameter file of a fluid optimization job. One thread at a time; the commands may be read from several threads.
 ///
-/// Generated from commands/gyre_commands.toml and commands/smooth_commands.toml by src/OrvelCommands/commands/generator. Do not edit: change
-/// the table and run `./run generate`.
+/// Generated from gyre_commands.toml and smooth_commands.toml
+/// by src/OrvelCommands/commands/generator. Do not edit: change the table and run `./run generate`.
 #pragma once
 
 #include "OrvelCommands/commands/gyre_commands.h"
@@ -26,6 +26,15 @@
 /// long as the aggregate that was moved from it. The storage is not owned and must outlive Load() and
 /// ValidateModelIds(); nothing else touches it.
 ///
+/// A kind of which a job has any number is read as a whole, by an id, or by a place counted from 1. Throws: "Invalid ID
+/// %s of the parameter file command X_" with code "161700240908"; "Invalid index %d of the parameterfile command X_ to
+/// retrieve. Number of available commands is %d" with code "204046270608".
+/// A kind of which a job has exactly one is read as that one; by an id that is not its own comes a command that was
+/// never loaded, with an empty id. Throws: "%d commands of type X_ detected. Only one is expected." with code
+/// "204046270608", also while loading.
+///
+/// \warning A reference to such a kind links to the command that was never loaded when its id is wrong: nothing fails.
+///
 /// Cost: a command is found by its id in one pass over the commands of its kind.
 class ORVELCOMMANDS_EXPORT Gyre_Parfile : public Parfile
 {
@@ -44,24 +53,24 @@ public:
 
   /// Reads all commands from the storage, then links them by their references.
   ///
-  /// Throws: "%d commands of type X_ detected. Only one is expected." with code "204046270608" for a kind of which a
-  /// job has exactly one; "Invalid ID %s of the parameter file command X_" with code "161700240908" for a reference to
-  /// an unknown command; what the storage throws. The commands loaded before then stay.
+  /// Throws: what the storage throws; "Invalid ID %s of the parameter file command X_" with code
+  /// "161700240908" for a reference to an unknown command. The commands loaded before then stay.
   ///
   /// \warning A second call appends a second set of commands. The command whose own loading fails is lost, not deleted.
   virtual void Load();
 
   /// Checks the model ids of all commands against the open database and reports all unknown ones in one failure.
+  /// Nothing else may work on the id maps of the database meanwhile.
   ///
   /// Throws: "<count> model IDs referenced in the parameter file cannot be found...." without a code, cut at 1023
-  /// characters; what the storage throws, the problems found before then being lost.
+  /// characters; a failure without a code where there is an id to check and no database is open; what the storage
+  /// throws. The problems found before one of the last two are lost.
+  ///
+  /// \warning A "%" in an unknown id acts as a printf conversion of a zero or empty argument.
   virtual void ValidateModelIds();
 
-  /// \name MODEL_
+  /// \name MODEL_, of which a job has exactly one
   /// Model that the job works on: the file that holds it and the solver that it belongs to.
-  ///
-  /// The one of the job; by an id that is not its own a command that was never loaded, with an empty id. Throws:
-  /// "%d commands of type MODEL_ detected. Only one is expected." with code "204046270608".
   /// @{
   const MODEL_& GetMODEL_() const;
   const MODEL_& GetMODEL_(const std::string& id) const;
@@ -69,10 +78,6 @@ public:
 
   /// \name ELEMENT_GROUP_
   /// Recipe for a group of elements: listed numbers and operations with other element groups.
-  ///
-  /// By an id or by a place counted from 1. Throws: "Invalid ID %s of the parameter file command ELEMENT_GROUP_" with code
-  /// "161700240908"; "Invalid index %d of the parameterfile command ELEMENT_GROUP_ to retrieve. Number of available commands
-  /// is %d" with code "204046270608".
   /// @{
   std::vector<ELEMENT_GROUP_*> GetELEMENT_GROUP_() const;
   ELEMENT_GROUP_& GetELEMENT_GROUP_(const std::string& id) const;
@@ -83,10 +88,6 @@ public:
 
   /// \name FACE_GROUP_
   /// Recipe for a group of faces: listed numbers and operations with other face groups.
-  ///
-  /// By an id or by a place counted from 1. Throws: "Invalid ID %s of the parameter file command FACE_GROUP_" with code
-  /// "161700240908"; "Invalid index %d of the parameterfile command FACE_GROUP_ to retrieve. Number of available commands
-  /// is %d" with code "204046270608".
   /// @{
   std::vector<FACE_GROUP_*> GetFACE_GROUP_() const;
   FACE_GROUP_& GetFACE_GROUP_(const std::string& id) const;
@@ -97,10 +98,6 @@ public:
 
   /// \name NODE_GROUP_
   /// Recipe for a group of nodes: listed numbers and operations with other node groups.
-  ///
-  /// By an id or by a place counted from 1. Throws: "Invalid ID %s of the parameter file command NODE_GROUP_" with code
-  /// "161700240908"; "Invalid index %d of the parameterfile command NODE_GROUP_ to retrieve. Number of available commands
-  /// is %d" with code "204046270608".
   /// @{
   std::vector<NODE_GROUP_*> GetNODE_GROUP_() const;
   NODE_GROUP_& GetNODE_GROUP_(const std::string& id) const;
@@ -111,10 +108,6 @@ public:
 
   /// \name DV_
   /// Design variable: the group whose values the optimization changes, its start value and its filters.
-  ///
-  /// By an id or by a place counted from 1. Throws: "Invalid ID %s of the parameter file command DV_" with code
-  /// "161700240908"; "Invalid index %d of the parameterfile command DV_ to retrieve. Number of available commands
-  /// is %d" with code "204046270608".
   /// @{
   std::vector<DV_*> GetDV_() const;
   DV_& GetDV_(const std::string& id) const;
@@ -125,10 +118,6 @@ public:
 
   /// \name DRESP_
   /// Design response: a quantity of the analysis to minimise, to constrain or merely to watch.
-  ///
-  /// By an id or by a place counted from 1. Throws: "Invalid ID %s of the parameter file command DRESP_" with code
-  /// "161700240908"; "Invalid index %d of the parameterfile command DRESP_ to retrieve. Number of available commands
-  /// is %d" with code "204046270608".
   /// @{
   std::vector<DRESP_*> GetDRESP_() const;
   DRESP_& GetDRESP_(const std::string& id) const;
@@ -139,10 +128,6 @@ public:
 
   /// \name OPERATOR_
   /// Operator: combines design responses and other operators, each with its weight, into one value.
-  ///
-  /// By an id or by a place counted from 1. Throws: "Invalid ID %s of the parameter file command OPERATOR_" with code
-  /// "161700240908"; "Invalid index %d of the parameterfile command OPERATOR_ to retrieve. Number of available commands
-  /// is %d" with code "204046270608".
   /// @{
   std::vector<OPERATOR_*> GetOPERATOR_() const;
   OPERATOR_& GetOPERATOR_(const std::string& id) const;
@@ -151,11 +136,8 @@ public:
   std::uint64_t NumOPERATOR_() const;
   /// @}
 
-  /// \name OBJ_FUNC_
+  /// \name OBJ_FUNC_, of which a job has exactly one
   /// Objective of the optimization: the response or operator to minimise, its scaling and its filters.
-  ///
-  /// The one of the job; by an id that is not its own a command that was never loaded, with an empty id. Throws:
-  /// "%d commands of type OBJ_FUNC_ detected. Only one is expected." with code "204046270608".
   /// @{
   const OBJ_FUNC_& GetOBJ_FUNC_() const;
   const OBJ_FUNC_& GetOBJ_FUNC_(const std::string& id) const;
@@ -163,10 +145,6 @@ public:
 
   /// \name CONSTRAINT_
   /// Constraint of the optimization: a bound on a response or an operator.
-  ///
-  /// By an id or by a place counted from 1. Throws: "Invalid ID %s of the parameter file command CONSTRAINT_" with code
-  /// "161700240908"; "Invalid index %d of the parameterfile command CONSTRAINT_ to retrieve. Number of available commands
-  /// is %d" with code "204046270608".
   /// @{
   std::vector<CONSTRAINT_*> GetCONSTRAINT_() const;
   CONSTRAINT_& GetCONSTRAINT_(const std::string& id) const;
@@ -177,10 +155,6 @@ public:
 
   /// \name CS_
   /// Coordinate system defined in the parameter file: a type, an origin and three axis vectors.
-  ///
-  /// By an id or by a place counted from 1. Throws: "Invalid ID %s of the parameter file command CS_" with code
-  /// "161700240908"; "Invalid index %d of the parameterfile command CS_ to retrieve. Number of available commands
-  /// is %d" with code "204046270608".
   /// @{
   std::vector<CS_*> GetCS_() const;
   CS_& GetCS_(const std::string& id) const;
@@ -191,10 +165,6 @@ public:
 
   /// \name DV_CONSTRAINT_
   /// Restriction on the design variables, such as a symmetry, a demolding direction or a member size.
-  ///
-  /// By an id or by a place counted from 1. Throws: "Invalid ID %s of the parameter file command DV_CONSTRAINT_" with code
-  /// "161700240908"; "Invalid index %d of the parameterfile command DV_CONSTRAINT_ to retrieve. Number of available commands
-  /// is %d" with code "204046270608".
   /// @{
   std::vector<DV_CONSTRAINT_*> GetDV_CONSTRAINT_() const;
   DV_CONSTRAINT_& GetDV_CONSTRAINT_(const std::string& id) const;
@@ -205,10 +175,6 @@ public:
 
   /// \name MONITOR_
   /// Monitor: one design response that is watched during the run.
-  ///
-  /// By an id or by a place counted from 1. Throws: "Invalid ID %s of the parameter file command MONITOR_" with code
-  /// "161700240908"; "Invalid index %d of the parameterfile command MONITOR_ to retrieve. Number of available commands
-  /// is %d" with code "204046270608".
   /// @{
   std::vector<MONITOR_*> GetMONITOR_() const;
   MONITOR_& GetMONITOR_(const std::string& id) const;
@@ -217,11 +183,8 @@ public:
   std::uint64_t NumMONITOR_() const;
   /// @}
 
-  /// \name ALGO_
+  /// \name ALGO_, of which a job has exactly one
   /// Optimization task: the strategy of the run and all commands that take part in it.
-  ///
-  /// The one of the job; by an id that is not its own a command that was never loaded, with an empty id. Throws:
-  /// "%d commands of type ALGO_ detected. Only one is expected." with code "204046270608".
   /// @{
   const ALGO_& GetALGO_() const;
   const ALGO_& GetALGO_(const std::string& id) const;
@@ -229,10 +192,6 @@ public:
 
   /// \name OPT_PARAM_
   /// General parameters of the optimization.
-  ///
-  /// By an id or by a place counted from 1. Throws: "Invalid ID %s of the parameter file command OPT_PARAM_" with code
-  /// "161700240908"; "Invalid index %d of the parameterfile command OPT_PARAM_ to retrieve. Number of available commands
-  /// is %d" with code "204046270608".
   /// @{
   std::vector<OPT_PARAM_*> GetOPT_PARAM_() const;
   OPT_PARAM_& GetOPT_PARAM_(const std::string& id) const;
@@ -243,10 +202,6 @@ public:
 
   /// \name STOP_
   /// Criteria that end the optimization: limits of iterations and residuals.
-  ///
-  /// By an id or by a place counted from 1. Throws: "Invalid ID %s of the parameter file command STOP_" with code
-  /// "161700240908"; "Invalid index %d of the parameterfile command STOP_ to retrieve. Number of available commands
-  /// is %d" with code "204046270608".
   /// @{
   std::vector<STOP_*> GetSTOP_() const;
   STOP_& GetSTOP_(const std::string& id) const;
@@ -257,10 +212,6 @@ public:
 
   /// \name MESH_SMOOTH_
   /// Smoothing of the mesh during the run, on a group of faces, nodes or elements.
-  ///
-  /// By an id or by a place counted from 1. Throws: "Invalid ID %s of the parameter file command MESH_SMOOTH_" with code
-  /// "161700240908"; "Invalid index %d of the parameterfile command MESH_SMOOTH_ to retrieve. Number of available commands
-  /// is %d" with code "204046270608".
   /// @{
   std::vector<MESH_SMOOTH_*> GetMESH_SMOOTH_() const;
   MESH_SMOOTH_& GetMESH_SMOOTH_(const std::string& id) const;
@@ -271,10 +222,6 @@ public:
 
   /// \name FILTER_
   /// Filter that design variables or sensitivities pass through, on a group of the model.
-  ///
-  /// By an id or by a place counted from 1. Throws: "Invalid ID %s of the parameter file command FILTER_" with code
-  /// "161700240908"; "Invalid index %d of the parameterfile command FILTER_ to retrieve. Number of available commands
-  /// is %d" with code "204046270608".
   /// @{
   std::vector<FILTER_*> GetFILTER_() const;
   FILTER_& GetFILTER_(const std::string& id) const;
@@ -285,10 +232,6 @@ public:
 
   /// \name PRE_PARAM_
   /// Parameters of the pre-processing: fluid, limits of its run, backflow angle and switches for tracks.
-  ///
-  /// By an id or by a place counted from 1. Throws: "Invalid ID %s of the parameter file command PRE_PARAM_" with code
-  /// "161700240908"; "Invalid index %d of the parameterfile command PRE_PARAM_ to retrieve. Number of available commands
-  /// is %d" with code "204046270608".
   /// @{
   std::vector<PRE_PARAM_*> GetPRE_PARAM_() const;
   PRE_PARAM_& GetPRE_PARAM_(const std::string& id) const;
@@ -299,10 +242,6 @@ public:
 
   /// \name AS_TOPO_OC_
   /// Settings for topology optimization by optimality criteria.
-  ///
-  /// By an id or by a place counted from 1. Throws: "Invalid ID %s of the parameter file command AS_TOPO_OC_" with code
-  /// "161700240908"; "Invalid index %d of the parameterfile command AS_TOPO_OC_ to retrieve. Number of available commands
-  /// is %d" with code "204046270608".
   /// @{
   std::vector<AS_TOPO_OC_*> GetAS_TOPO_OC_() const;
   AS_TOPO_OC_& GetAS_TOPO_OC_(const std::string& id) const;
@@ -313,10 +252,6 @@ public:
 
   /// \name AS_TOPO_SENS_
   /// Settings for topology optimization by sensitivities: optimizer, move limits, primal and adjoint runs.
-  ///
-  /// By an id or by a place counted from 1. Throws: "Invalid ID %s of the parameter file command AS_TOPO_SENS_" with code
-  /// "161700240908"; "Invalid index %d of the parameterfile command AS_TOPO_SENS_ to retrieve. Number of available commands
-  /// is %d" with code "204046270608".
   /// @{
   std::vector<AS_TOPO_SENS_*> GetAS_TOPO_SENS_() const;
   AS_TOPO_SENS_& GetAS_TOPO_SENS_(const std::string& id) const;
@@ -327,10 +262,6 @@ public:
 
   /// \name AS_SHAPE_SENS_
   /// Settings for shape optimization by sensitivities: optimizer, move limits, filters and normals.
-  ///
-  /// By an id or by a place counted from 1. Throws: "Invalid ID %s of the parameter file command AS_SHAPE_SENS_" with code
-  /// "161700240908"; "Invalid index %d of the parameterfile command AS_SHAPE_SENS_ to retrieve. Number of available commands
-  /// is %d" with code "204046270608".
   /// @{
   std::vector<AS_SHAPE_SENS_*> GetAS_SHAPE_SENS_() const;
   AS_SHAPE_SENS_& GetAS_SHAPE_SENS_(const std::string& id) const;
@@ -339,11 +270,8 @@ public:
   std::uint64_t NumAS_SHAPE_SENS_() const;
   /// @}
 
-  /// \name FLOWPATHS_
+  /// \name FLOWPATHS_, of which a job has exactly one
   /// Flow paths of the fluid domain: the groups of faces where the flow enters and leaves.
-  ///
-  /// The one of the job; by an id that is not its own a command that was never loaded, with an empty id. Throws:
-  /// "%d commands of type FLOWPATHS_ detected. Only one is expected." with code "204046270608".
   /// @{
   const FLOWPATHS_& GetFLOWPATHS_() const;
   const FLOWPATHS_& GetFLOWPATHS_(const std::string& id) const;
@@ -351,10 +279,6 @@ public:
 
   /// \name OUTPUT_
   /// What the job writes out: file, format, iterations and the kind of data and result.
-  ///
-  /// By an id or by a place counted from 1. Throws: "Invalid ID %s of the parameter file command OUTPUT_" with code
-  /// "161700240908"; "Invalid index %d of the parameterfile command OUTPUT_ to retrieve. Number of available commands
-  /// is %d" with code "204046270608".
   /// @{
   std::vector<OUTPUT_*> GetOUTPUT_() const;
   OUTPUT_& GetOUTPUT_(const std::string& id) const;
@@ -365,10 +289,6 @@ public:
 
   /// \name SCALING_CURVE_
   /// Scaling curve, to which a restriction on the design variables can refer.
-  ///
-  /// By an id or by a place counted from 1. Throws: "Invalid ID %s of the parameter file command SCALING_CURVE_" with code
-  /// "161700240908"; "Invalid index %d of the parameterfile command SCALING_CURVE_ to retrieve. Number of available commands
-  /// is %d" with code "204046270608".
   /// @{
   std::vector<SCALING_CURVE_*> GetSCALING_CURVE_() const;
   SCALING_CURVE_& GetSCALING_CURVE_(const std::string& id) const;
@@ -379,10 +299,6 @@ public:
 
   /// \name SMOOTH_
   /// Smoothing job: computes a surface from an optimization result, smooths, reduces and writes it.
-  ///
-  /// By an id or by a place counted from 1. Throws: "Invalid ID %s of the parameter file command SMOOTH_" with code
-  /// "161700240908"; "Invalid index %d of the parameterfile command SMOOTH_ to retrieve. Number of available commands
-  /// is %d" with code "204046270608".
   /// @{
   std::vector<SMOOTH_*> GetSMOOTH_() const;
   SMOOTH_& GetSMOOTH_(const std::string& id) const;

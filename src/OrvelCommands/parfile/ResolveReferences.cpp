@@ -1,8 +1,8 @@
 /// \file
 /// The references of each class, in the order in which they are linked. What a step does stands in link_steps.h.
 ///
-/// Generated from commands/gyre_commands.toml and commands/smooth_commands.toml by src/OrvelCommands/commands/generator. Do not edit: change
-/// the table and run `./run generate`.
+/// Generated from gyre_commands.toml and smooth_commands.toml
+/// by src/OrvelCommands/commands/generator. Do not edit: change the table and run `./run generate`.
 #include "OrvelCommands/parfile/ResolveReferences.h"
 
 #include "OrvelCommands/parfile/link_steps.h"

@@ -1,8 +1,8 @@
 /// \file
 /// Links the commands of a parameter file. One thread at a time.
 ///
-/// Generated from commands/gyre_commands.toml and commands/smooth_commands.toml by src/OrvelCommands/commands/generator. Do not edit: change
-/// the table and run `./run generate`.
+/// Generated from gyre_commands.toml and smooth_commands.toml
+/// by src/OrvelCommands/commands/generator. Do not edit: change the table and run `./run generate`.
 #pragma once
 
 #include "OrvelCommands/parfile/Gyre_Parfile.h"

@@ -1,8 +1,8 @@
 /// \file
 /// The operations of Smooth_Parfile. What each step does stands in command_list.h.
 ///
-/// Generated from commands/smooth_commands.toml by src/OrvelCommands/commands/generator. Do not edit: change
-/// the table and run `./run generate`.
+/// Generated from smooth_commands.toml
+/// by src/OrvelCommands/commands/generator. Do not edit: change the table and run `./run generate`.
 #include "OrvelCommands/parfile/Smooth_Parfile.h"
 
 #include "OrvelCommands/parfile/command_list.h"

@@ -1,8 +1,8 @@
 /// \file
 /// The parameter file of a smoothing job. One thread at a time; the commands may be read from several threads.
 ///
-/// Generated from commands/smooth_commands.toml by src/OrvelCommands/commands/generator. Do not edit: change
-/// the table and run `./run generate`.
+/// Generated from smooth_commands.toml
+/// by src/OrvelCommands/commands/generator. Do not edit: change the table and run `./run generate`.
 #pragma once
 
 #include "OrvelCommands/commands/smooth_commands.h"
@@ -25,6 +25,10 @@
 /// long as the aggregate that was moved from it. The storage is not owned and must outlive Load() and
 /// ValidateModelIds(); nothing else touches it.
 ///
+/// A kind of which a job has any number is read as a whole, by an id, or by a place counted from 1. Throws: "Invalid ID
+/// %s of the parameter file command X_" with code "161700240908"; "Invalid index %d of the parameterfile command X_ to
+/// retrieve. Number of available commands is %d" with code "204046270608".
+///
 /// Cost: a command is found by its id in one pass over the commands of its kind.
 class ORVELCOMMANDS_EXPORT Smooth_Parfile : public Parfile
 {
@@ -41,27 +45,25 @@ public:
   Smooth_Parfile(const Smooth_Parfile&) = delete;
   Smooth_Parfile& operator=(const Smooth_Parfile&) = delete;
 
-  /// Reads all commands from the storage, then links them by their references.
+  /// Reads all commands from the storage.
   ///
-  /// Throws: "%d commands of type X_ detected. Only one is expected." with code "204046270608" for a kind of which a
-  /// job has exactly one; "Invalid ID %s of the parameter file command X_" with code "161700240908" for a reference to
-  /// an unknown command; what the storage throws. The commands loaded before then stay.
+  /// Throws: what the storage throws. The commands loaded before then stay.
   ///
   /// \warning A second call appends a second set of commands. The command whose own loading fails is lost, not deleted.
   virtual void Load();
 
   /// Checks the model ids of all commands against the open database and reports all unknown ones in one failure.
+  /// Nothing else may work on the id maps of the database meanwhile.
   ///
   /// Throws: "<count> model IDs referenced in the parameter file cannot be found...." without a code, cut at 1023
-  /// characters; what the storage throws, the problems found before then being lost.
+  /// characters; a failure without a code where there is an id to check and no database is open; what the storage
+  /// throws. The problems found before one of the last two are lost.
+  ///
+  /// \warning A "%" in an unknown id acts as a printf conversion of a zero or empty argument.
   virtual void ValidateModelIds();
 
   /// \name SMOOTH_
   /// Smoothing job: computes a surface from an optimization result, smooths, reduces and writes it.
-  ///
-  /// By an id or by a place counted from 1. Throws: "Invalid ID %s of the parameter file command SMOOTH_" with code
-  /// "161700240908"; "Invalid index %d of the parameterfile command SMOOTH_ to retrieve. Number of available commands
-  /// is %d" with code "204046270608".
   /// @{
   std::vector<SMOOTH_*> GetSMOOTH_() const;
   SMOOTH_& GetSMOOTH_(const std::string& id) const;

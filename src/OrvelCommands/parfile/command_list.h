@@ -58,7 +58,8 @@ void LoadTheCommand(const OrvelParfileStorage& storage, std::vector<Command*>& l
   LoadOneCommand(storage, 0, list);
 }
 
-/// Fills the references of all commands of a kind.
+/// Fills the references of all commands of a kind. The linker is a parameter so that it is looked up where it is known:
+/// an aggregate without references has none.
 template <class Command, class Aggregate, class Linker = ReferenceLinker>
 void LinkCommands(const std::vector<Command*>& list, const OrvelParfileStorage& storage, Aggregate& parfile,
                   std::vector<KLV_ParfileException>& problems)

@@ -1,8 +1,8 @@
 /// \file
 /// A walk over all commands of a loaded parameter file, whatever their classes. As safe as reading the commands.
 ///
-/// Generated from commands/gyre_commands.toml and commands/smooth_commands.toml by src/OrvelCommands/commands/generator. Do not edit: change
-/// the table and run `./run generate`.
+/// Generated from gyre_commands.toml and smooth_commands.toml
+/// by src/OrvelCommands/commands/generator. Do not edit: change the table and run `./run generate`.
 #pragma once
 
 #include "OrvelCommands/parfile/Gyre_Parfile.h"

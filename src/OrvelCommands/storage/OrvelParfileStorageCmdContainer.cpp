@@ -141,11 +141,16 @@ void OrvelParfileStorageCmdContainer::FilteredName(const CommandRecord& record, 
   std::uint64_t passed = 0;
   for (auto cmd = container.GetCommandBegin(record.kind); cmd != container.GetCommandEnd(record.kind); ++cmd)
   {
-    if (*cmd != nullptr && PassesFilter(record, **cmd) && passed++ == position)
+    if (*cmd == nullptr || !PassesFilter(record, **cmd))
+    {
+      continue;
+    }
+    if (passed == position)
     {
       GiveIdName(**cmd, name);
       return;
     }
+    ++passed;
   }
 }
 

@@ -13,6 +13,8 @@ using Items = OrvelCmdItemDefs;
 namespace
 {
 
+constexpr auto kNoFilterValue = static_cast<Items::EnumValue>(-1);
+
 ItemMapping Direct(Items::CmdItem item)
 {
   return ItemMapping::Direct(item, [](const OrvelCmd&) { return true; });
@@ -46,7 +48,7 @@ ItemMapping OfDvUpdate(Items::CmdItem target_item)
 void OrvelParfileStorageCmdContainer::FillCommandRecords()
 {
   const auto plain = [](Cmd kind) {
-    return CommandRecord{kind, Items::ITEM_NONE, static_cast<Items::EnumValue>(-1), &PlainCount, &PlainName};
+    return CommandRecord{kind, Items::ITEM_NONE, kNoFilterValue, &PlainCount, &PlainName};
   };
   const auto groups_of_type = [](Items::EnumValue type) {
     return CommandRecord{Defs::GROUP_DEF, Items::TYPE, type, &FilteredCount, &FilteredName};
@@ -71,7 +73,7 @@ void OrvelParfileStorageCmdContainer::FillCommandRecords()
     {"FILTER_",        plain(Defs::FILTER)},
     {"ELEMENT_GROUP_", groups_of_type(Items::GROUP_TYPE_ELEMENT)},
     {"NODE_GROUP_",    groups_of_type(Items::GROUP_TYPE_NODE)},
-    {"DV_",            {Defs::DV, Items::ITEM_NONE, static_cast<Items::EnumValue>(-1), &DvCount, &DvName}},
+    {"DV_",            {Defs::DV, Items::ITEM_NONE, kNoFilterValue, &DvCount, &DvName}},
   };
 }
 

@@ -54,7 +54,7 @@ void RequireRankOne(const H5::DataSpace& space)
 {
   if (space.getSimpleExtentNdims() != 1)
   {
-    throw H5::DataSetIException("ParfileHdf5Storage", "the dataset of a key has not rank 1");
+    throw H5::DataSetIException("ParfileHdf5Storage", hdf5_failures::kWrongRank);
   }
 }
 
@@ -101,23 +101,31 @@ hvl_t AsVariableLength(const Item* items, std::size_t count)
 template <class Value>
 bool CanMove(VtmType type)
 {
-  if (std::is_same_v<Value, int>)
+  if constexpr (std::is_same_v<Value, int>)
   {
     return type == vtmInteger || type == vtmEnum;
   }
-  if (std::is_same_v<Value, double>)
+  else if constexpr (std::is_same_v<Value, double>)
   {
     return type == vtmDouble;
   }
-  if (std::is_same_v<Value, std::string>)
+  else if constexpr (std::is_same_v<Value, std::string>)
   {
     return type == vtmString || type == vtmModelId;
   }
-  if (std::is_same_v<Value, std::vector<int>>)
+  else if constexpr (std::is_same_v<Value, std::vector<int>>)
   {
     return type == vtmIntegerList;
   }
-  return std::is_same_v<Value, char> || type == vtmDoubleList;
+  else if constexpr (std::is_same_v<Value, std::vector<double>>)
+  {
+    return type == vtmDoubleList;
+  }
+  else
+  {
+    static_assert(std::is_same_v<Value, char>);
+    return true;
+  }
 }
 
 template <class Value>
@@ -125,7 +133,7 @@ void RequireMovable(VtmType type, const FailureText& failure)
 {
   if (!CanMove<Value>(type))
   {
-    Fail(failure, {"the VtmType does not fit the type of the value"});
+    Fail(failure, {hdf5_failures::kWrongVtmType});
   }
 }
 
@@ -143,7 +151,14 @@ bool FindLinkTo(const H5::Group& parfile, const std::string& kind, hobj_ref_t ob
     {
       return 0;
     }
-    wanted.name = member;
+    try
+    {
+      wanted.name = member;
+    }
+    catch (...)  // must not pass through HDF5; the caller's other way to the name meets the same want of memory
+    {
+      return -1;
+    }
     return 1;
   };
   hsize_t start = 0;
@@ -156,7 +171,7 @@ std::string PathOf(const H5::Group& group)
   const ssize_t length = H5Iget_name(group.getId(), nullptr, 0);
   if (length <= 0)  // 0 for a group that has been removed
   {
-    throw H5::IdComponentException("ParfileHdf5Storage::GetReference", "the target of the reference has no name");
+    throw H5::IdComponentException("ParfileHdf5Storage::GetReference", hdf5_failures::kUnnamedTarget);
   }
   std::vector<char> path(static_cast<std::size_t>(length) + 1);
   H5Iget_name(group.getId(), path.data(), path.size());
@@ -213,7 +228,7 @@ bool ParfileHdf5Storage::HasGroupOrSet(const H5::Group& group, const std::string
                                    const_cast<std::string*>(&name));
   if (result < 0)
   {
-    throw H5::GroupIException("ParfileHdf5Storage::HasGroupOrSet", "H5Literate failed");
+    throw H5::GroupIException("ParfileHdf5Storage::HasGroupOrSet", hdf5_failures::kNoWalk);
   }
   return result > 0;
 }
@@ -283,17 +298,30 @@ void ParfileHdf5Storage::GetReference(const std::string& command, const std::str
     if (H5Rget_obj_type2(dataset.getId(), H5R_OBJECT, &reference, &type) < 0 || type != H5O_TYPE_GROUP)
     {
       // A dataset dereferenced into a group would keep the file open for good.
-      throw H5::ReferenceException("ParfileHdf5Storage::GetReference", "the reference leads to no group");
+      throw H5::ReferenceException("ParfileHdf5Storage::GetReference", hdf5_failures::kNoGroup);
     }
-    H5::Group target;
-    target.dereference(dataset, &reference, H5R_OBJECT);
     // Asked for the path of a dereferenced group, HDF5 searches the whole file. A key bears the name of the kind that
     // it refers to, so a look at that kind's links finds nearly every name first.
     if (!HasGroupOrSet(m_parfile_group, key) || !FindLinkTo(m_parfile_group, key, reference, target_id_name))
     {
+      H5::Group target;
+      target.dereference(dataset, &reference, H5R_OBJECT);
       const std::string path = PathOf(target);
       target_id_name = path.substr(path.rfind('/') + 1);
     }
+  });
+}
+
+H5::DataSet ParfileHdf5Storage::OpenKey(const std::string& command, const std::string& id_name,
+                                        const std::string& key, const FailureText& absent,
+                                        const FailureText& not_reached) const
+{
+  return Guarded<H5::Exception>(not_reached, [&] {
+    if (!HasGroupOrSet(m_parfile_group.openGroup(GroupPath(command, id_name)), key))
+    {
+      Fail(absent);
+    }
+    return m_parfile_group.openDataSet(DatasetPath(command, id_name, key));
   });
 }
 
@@ -301,15 +329,9 @@ template <class Value>
 void ParfileHdf5Storage::ReadValue(const std::string& command, const std::string& id_name, const std::string& key,
                                    std::uint64_t index, VtmType type, Value& value) const
 {
-  std::unique_ptr<H5::DataType> data_type;
-  const H5::DataSet dataset = Guarded<H5::Exception>(hdf5_failures::kGetNotReached, [&] {
-    if (!HasGroupOrSet(m_parfile_group.openGroup(GroupPath(command, id_name)), key))
-    {
-      Fail(hdf5_failures::kGetAbsent);
-    }
-    data_type = MakeDataType(type);
-    return m_parfile_group.openDataSet(DatasetPath(command, id_name, key));
-  });
+  const H5::DataSet dataset =
+    OpenKey(command, id_name, key, hdf5_failures::kGetAbsent, hdf5_failures::kGetNotReached);
+  const auto data_type = Guarded<H5::Exception>(hdf5_failures::kGetNotReached, [&] { return MakeDataType(type); });
   if (data_type != nullptr)
   {
     RequireMovable<Value>(type, hdf5_failures::kReadElement);
@@ -321,15 +343,9 @@ template <class Value>
 void ParfileHdf5Storage::OverwriteValue(const std::string& command, const std::string& id_name,
                                         const std::string& key, int index, VtmType type, const Value& value) const
 {
-  std::unique_ptr<H5::DataType> data_type;
-  const H5::DataSet dataset = Guarded<H5::Exception>(hdf5_failures::kSetNotReached, [&] {
-    if (!HasGroupOrSet(m_parfile_group.openGroup(GroupPath(command, id_name)), key))
-    {
-      Fail(hdf5_failures::kSetAbsent);
-    }
-    data_type = MakeDataType(type);
-    return m_parfile_group.openDataSet(DatasetPath(command, id_name, key));
-  });
+  const H5::DataSet dataset =
+    OpenKey(command, id_name, key, hdf5_failures::kSetAbsent, hdf5_failures::kSetNotReached);
+  const auto data_type = Guarded<H5::Exception>(hdf5_failures::kSetNotReached, [&] { return MakeDataType(type); });
   if (data_type != nullptr)
   {
     RequireMovable<Value>(type, hdf5_failures::kWriteElement);
@@ -348,10 +364,11 @@ void ParfileHdf5Storage::AppendValue(const std::string& command, const std::stri
   {
     return;
   }
-  RequireMovable<Value>(type, hdf5_failures::kWriteElement);
   std::size_t position = 0;
   const H5::DataSet dataset = Guarded<H5::Exception>(hdf5_failures::kAddNotReached, [&] {
-    return OpenForAppend(command, id_name, key, *data_type, position);
+    const H5::Group group = m_parfile_group.openGroup(GroupPath(command, id_name));
+    RequireMovable<Value>(type, hdf5_failures::kWriteElement);  // before a key is made for nothing
+    return OpenForAppend(group, key, *data_type, position);
   });
   Set(dataset, *data_type, position, value);
 }
@@ -464,15 +481,12 @@ void ParfileHdf5Storage::AddValue(const std::string& command, const std::string&
   AppendValue(command, id_name, key, type, value);
 }
 
-H5::DataSet ParfileHdf5Storage::OpenForAppend(const std::string& command, const std::string& id_name,
-                                              const std::string& key, const H5::DataType& type,
-                                              std::size_t& position) const
+H5::DataSet ParfileHdf5Storage::OpenForAppend(const H5::Group& group, const std::string& key,
+                                              const H5::DataType& type, std::size_t& position) const
 {
-  const H5::Group group = m_parfile_group.openGroup(GroupPath(command, id_name));
-  const std::string path = DatasetPath(command, id_name, key);
   if (HasGroupOrSet(group, key))
   {
-    H5::DataSet dataset = m_parfile_group.openDataSet(path);
+    H5::DataSet dataset = group.openDataSet(key);
     position = dataset.getSpace().getSelectNpoints();
     return dataset;
   }
@@ -480,7 +494,7 @@ H5::DataSet ParfileHdf5Storage::OpenForAppend(const std::string& command, const 
   H5::DSetCreatPropList layout;
   layout.setChunk(1, chunk);
   position = 0;  // a key is made with room for its first value
-  return m_parfile_group.createDataSet(path, type, m_value_space, layout);
+  return group.createDataSet(key, type, m_value_space, layout);
 }
 
 void ParfileHdf5Storage::DeleteValues(const std::string& command, const std::string& id_name, const std::string& key)
@@ -532,7 +546,8 @@ void ParfileHdf5Storage::AddReference(const std::string& command, const std::str
   }
   std::size_t position = 0;
   const H5::DataSet dataset = Guarded<H5::Exception>(hdf5_failures::kReference, [&] {
-    return OpenForAppend(command, id_name, key, H5::PredType::STD_REF_OBJ, position);
+    return OpenForAppend(m_parfile_group.openGroup(GroupPath(command, id_name)), key, H5::PredType::STD_REF_OBJ,
+                         position);
   });
   Set(dataset, H5::PredType::STD_REF_OBJ, position, &reference);
 }

@@ -18,12 +18,17 @@
 #pragma warning(disable : 4251)
 #endif
 
+namespace orvel::detail
+{
+struct FailureText;
+}
+
 /// A parameter file that outlives the process: the file PARFILE_STORAGE_FILE in the working directory.
 ///
 /// In the file stand a group "/PARFILE", in it a group for each kind of command, in it a group for each `ID_NAME`, in
 /// it a one-dimensional extendable dataset for each key, one element for each value. A text is a variable-length
 /// sequence of one-character strings with its terminating NUL, a reference an HDF5 object reference to the group of
-/// its target. Names are not escaped, so that a "/" in one makes more levels, and "" and "." name the group above.
+/// its target. Names are not escaped: a "/" in one means a level more, and "" and "." mean the group above.
 ///
 /// The storage opens the file and never makes it. (A file of zero bytes opened for writing is turned into a valid
 /// empty file by HDF5.) It is open for the whole life of the object and closes as the object is destroyed.
@@ -80,6 +85,9 @@ public:
 
   /// Throws: "172740050612" for an absent kind, id name or key and for an element that refers to no group or to one that was removed;
   /// "134746060612" for an index past the end and for a key that holds no references.
+  ///
+  /// Cost: one pass over the commands of the kind that the key is named after; a target of another kind is a search of
+  /// the whole file.
   void GetReference(const std::string& command, const std::string& id_name, const std::string& key,
                     std::uint64_t index, std::string& target_id_name) const override;
 
@@ -170,9 +178,14 @@ private:
   bool HasGroupOrSet(const H5::Group& group, const std::string& name) const;
   std::unique_ptr<H5::DataType> MakeDataType(VtmType type) const;
 
-  // Opens a key for one more value, making it when it is not there, and tells the 0-based place of that value.
-  H5::DataSet OpenForAppend(const std::string& command, const std::string& id_name, const std::string& key,
-                            const H5::DataType& type, std::size_t& position) const;
+  // Opens a key that is there.
+  H5::DataSet OpenKey(const std::string& command, const std::string& id_name, const std::string& key,
+                      const orvel::detail::FailureText& absent, const orvel::detail::FailureText& not_reached) const;
+
+  // Opens a key of a command for one more value, making it when it is not there, and tells the 0-based place of that
+  // value.
+  H5::DataSet OpenForAppend(const H5::Group& group, const std::string& key, const H5::DataType& type,
+                            std::size_t& position) const;
 
   template <class Value>
   void ReadValue(const std::string& command, const std::string& id_name, const std::string& key, std::uint64_t index,

@@ -7,7 +7,7 @@ import unittest
 import h5py
 import numpy
 
-from support import EXAMPLES, FAULTS, FILE_NAME, GOOD, UNUSABLE, ToolTest, names_in
+from support import EXAMPLES, FAULTS, FILE_NAME, GOOD, TYPES, UNUSABLE, ToolTest, names_in
 
 # Keys whose value is one list, where an array of any other key holds one value for each element.
 LIST_KEYS = {("NODE_GROUP_", "LIST_"), ("OPT_PARAM_", "STORE_INT_"), ("OUTPUT_", "ITERATION_"),
@@ -109,17 +109,12 @@ BETA_ = 0.0
 """
 
 
-def kind_of_value(dtype):
-    """What an element of a dataset is, in our words."""
-    if dtype == h5py.ref_dtype and h5py.check_ref_dtype(dtype) is h5py.Reference:
-        return "reference"
-    names = {"int32": "integer", "float64": "double"}
-    sequence = h5py.check_vlen_dtype(dtype)
-    if sequence is None:
-        return names.get(str(dtype), str(dtype))
-    if sequence == numpy.dtype("S1"):
-        return "text"
-    return "list of " + names.get(str(sequence), str(sequence))
+def sort_of(dataset):
+    """What the elements of a dataset are."""
+    for sort, type_id in TYPES.items():
+        if type_id.equal(dataset.id.get_type()):
+            return sort
+    return str(dataset.dtype)
 
 
 def content_of(file, value):
@@ -137,7 +132,7 @@ def read_parameter_file(path):
         return {
             kind: {
                 name: {
-                    key: (kind_of_value(dataset.dtype), [content_of(file, value) for value in dataset])
+                    key: (sort_of(dataset), [content_of(file, value) for value in dataset])
                     for key, dataset in command.items()}
                 for name, command in commands.items()}
             for kind, commands in file["PARFILE"].items()}
@@ -457,7 +452,7 @@ class FaultsOfAJobDescription(ImportTest):
                     f"job.toml:{line}:11: OUTPUT_ tracks: CUTOFF_ must be a list of numbers, not {found}")
 
     def test_a_reference_of_another_type(self):
-        for described, found in (("1", "1"), ("true", "true"), ('["a"]', "[ 'a' ]")):
+        for described, found in (("1", "1"), ("true", "true"), ('["a"]', "[ 'a' ]"), ('"a\\u0000"', '"a\\u0000"')):
             with self.subTest(described):
                 self.assert_faults(
                     f"[MONITOR_.m]\nDRESP_ = {described}\n",
@@ -506,15 +501,18 @@ class FaultsOfAJobDescription(ImportTest):
     def test_a_nul_in_an_id_hides_no_other_fault(self):
         result = self.import_job('[FACE_GROUP_."a\\u0000b"]\n[STOP_.s]\nITER_MAX_ = "many"\n')
         self.assertEqual((FAULTS, ""), (result.code, result.out))
-        self.assertRegex(result.err, r'^job\.toml:1:1: the id "a.*b" of a FACE_GROUP_ cannot stand in a parameter file: ')
-        self.assertIn("\njob.toml:3:13: STOP_ s: ITER_MAX_ must be a whole number of 32 bits, not 'many'\n", result.err)
+        self.assertRegex(
+            result.err, r'^job\.toml:1:1: the id "a.*b" of a FACE_GROUP_ cannot stand in a parameter file: ')
+        self.assertIn(
+            "\njob.toml:3:13: STOP_ s: ITER_MAX_ must be a whole number of 32 bits, not 'many'\n", result.err)
 
     def test_a_nul_in_a_kind_or_key_hides_no_other_fault(self):
         result = self.import_job(MODEL + '"SO\\u0000" = 3\n["DV\\u0000".d]\n[STOP_.s]\nITER_MAX_ = "many"\n')
         self.assertEqual((FAULTS, ""), (result.code, result.out))
         self.assertRegex(result.err, r"^job\.toml:3:14: MODEL_ duct has no key SO")
         self.assertIn("\njob.toml:4:1: there is no kind of command DV", result.err)
-        self.assertIn("\njob.toml:6:13: STOP_ s: ITER_MAX_ must be a whole number of 32 bits, not 'many'\n", result.err)
+        self.assertIn(
+            "\njob.toml:6:13: STOP_ s: ITER_MAX_ must be a whole number of 32 bits, not 'many'\n", result.err)
 
     def test_all_come_in_one_run_and_in_the_order_of_the_text(self):
         self.assert_faults(

@@ -4,6 +4,7 @@ The environment variable ORVEL_PARFILE names the tool. Parameter files are built
 layout of the file, so that the tool also reads what it did not write.
 """
 
+import ctypes
 import os
 import pathlib
 import subprocess
@@ -13,6 +14,7 @@ import unittest
 
 import h5py
 import numpy
+from h5py import h5d, h5p, h5s, h5t
 
 ROOT = pathlib.Path(__file__).resolve().parents[3]
 EXAMPLES = ROOT / "examples"
@@ -25,6 +27,16 @@ TOOL = os.path.abspath(os.environ["ORVEL_PARFILE"])
 GOOD = 0
 FAULTS = 1
 UNUSABLE = 2
+
+# What a dataset of each sort of values has as its type.
+TYPES = {
+    "integer": h5t.NATIVE_INT32,
+    "double": h5t.NATIVE_DOUBLE,
+    "text": h5t.vlen_create(h5t.C_S1),
+    "list of integer": h5t.vlen_create(h5t.NATIVE_INT32),
+    "list of double": h5t.vlen_create(h5t.NATIVE_DOUBLE),
+    "reference": h5t.STD_REF_OBJ,
+}
 
 
 class Result(typing.NamedTuple):
@@ -43,7 +55,7 @@ class ToolTest(unittest.TestCase):
     def setUp(self):
         temporary = tempfile.TemporaryDirectory(prefix="orvel-parfile-test-")
         self.addCleanup(temporary.cleanup)
-        self.folder = pathlib.Path(temporary.name).resolve() / "work"
+        self.folder = pathlib.Path(temporary.name).resolve() / "folder"
         self.scratch = self.folder.parent / "scratch"
         self.folder.mkdir()
         self.scratch.mkdir()
@@ -78,23 +90,27 @@ def names_in(folder):
 
 def integers(*values):
     """The values of a key for whole numbers or enumerators."""
-    return numpy.dtype(numpy.int32), values
+    return "integer", values
 
 
 def doubles(*values):
     """The values of a key for numbers."""
-    return numpy.dtype(numpy.float64), values
+    return "double", values
 
 
 def texts(*values):
-    """The values of a key for texts or model ids: sequences of bytes with a terminating NUL."""
-    return h5py.vlen_dtype(numpy.dtype("S1")), [
-        numpy.frombuffer(value.encode() + b"\0", dtype="S1") for value in values]
+    """The values of a key for texts or model ids."""
+    return "text", values
+
+
+def integer_lists(*values):
+    """The values of a key of which each is a list."""
+    return "list of integer", [numpy.array(value, dtype=numpy.int32) for value in values]
 
 
 def references(*targets):
     """The values of a key for references, each given as "KIND_/id"."""
-    return h5py.ref_dtype, targets
+    return "reference", targets
 
 
 def write_parameter_file(folder, job):
@@ -107,18 +123,30 @@ def write_parameter_file(folder, job):
                 root.create_group(f"{kind}/{name}")
         for kind, commands in job.items():
             for name, keys in commands.items():
-                for key, (dtype, values) in keys.items():
-                    write_key(root[kind][name], key, dtype, values)
+                for key, (sort, values) in keys.items():
+                    write_key(root[kind][name], key, sort, values)
     return path
 
 
-def write_key(command, key, dtype, values):
+def write_key(command, key, sort, values):
     """Adds one key to the group of a command."""
-    dataset = command.create_dataset(key, (len(values),), maxshape=(None,), chunks=(1,), dtype=dtype)
+    layout = h5p.create(h5p.DATASET_CREATE)
+    layout.set_chunk((1,))
+    space = h5s.create_simple((len(values),), (h5s.UNLIMITED,))
+    dataset = h5d.create(command.id, key.encode(), TYPES[sort], space, layout)
+    if sort == "text" and values:
+        write_texts(dataset, values)
+        return
     for position, value in enumerate(values):
-        if dtype is h5py.ref_dtype:
-            value = command.file[f"PARFILE/{value}"].ref
-        dataset[position] = value
+        h5py.Dataset(dataset)[position] = command.file[f"PARFILE/{value}"].ref if sort == "reference" else value
+
+
+def write_texts(dataset, values):
+    """Writes texts with their terminating NUL. h5py itself would pad characters, which HDF5 then turns into NULs."""
+    buffers = [ctypes.create_string_buffer(value.encode()) for value in values]
+    sequences = [(len(buffer), ctypes.addressof(buffer)) for buffer in buffers]
+    memory = numpy.array(sequences, dtype=[("length", "u8"), ("data", "u8")])
+    dataset.write(h5s.ALL, h5s.ALL, memory, mtype=TYPES["text"])
 
 
 def minimal_job():

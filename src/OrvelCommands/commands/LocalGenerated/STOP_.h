@@ -1,8 +1,8 @@
 /// \file
 /// The command STOP_. The const operations of a loaded command may be used from several threads.
 ///
-/// Generated from commands/gyre_commands.toml by src/OrvelCommands/commands/generator. Do not edit: change
-/// the table and run `./run generate`.
+/// Generated from gyre_commands.toml
+/// by src/OrvelCommands/commands/generator. Do not edit: change the table and run `./run generate`.
 #pragma once
 
 #include "OrvelCommands/commands/OrvelCommand.h"

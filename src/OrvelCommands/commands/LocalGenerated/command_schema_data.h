@@ -1,8 +1,8 @@
 /// \file
 /// The constants behind command_schema.h, which is the header to include.
 ///
-/// Generated from commands/gyre_commands.toml and commands/smooth_commands.toml by src/OrvelCommands/commands/generator. Do not edit: change
-/// the table and run `./run generate`.
+/// Generated from gyre_commands.toml and smooth_commands.toml
+/// by src/OrvelCommands/commands/generator. Do not edit: change the table and run `./run generate`.
 #pragma once
 
 #include "OrvelCommands/commands/command_schema_types.h"

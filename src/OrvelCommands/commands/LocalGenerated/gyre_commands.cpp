@@ -1,8 +1,8 @@
 /// \file
 /// The command classes of commands/gyre_commands.h.
 ///
-/// Generated from commands/gyre_commands.toml by src/OrvelCommands/commands/generator. Do not edit: change
-/// the table and run `./run generate`.
+/// Generated from gyre_commands.toml
+/// by src/OrvelCommands/commands/generator. Do not edit: change the table and run `./run generate`.
 #include "OrvelCommands/commands/gyre_commands.h"
 
 #include "OrvelCommands/commands/command_schema.h"

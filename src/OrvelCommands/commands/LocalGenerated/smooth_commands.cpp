@@ -1,8 +1,8 @@
 /// \file
 /// The command classes of commands/smooth_commands.h.
 ///
-/// Generated from commands/smooth_commands.toml by src/OrvelCommands/commands/generator. Do not edit: change
-/// the table and run `./run generate`.
+/// Generated from smooth_commands.toml
+/// by src/OrvelCommands/commands/generator. Do not edit: change the table and run `./run generate`.
 #include "OrvelCommands/commands/smooth_commands.h"
 
 #include "OrvelCommands/commands/command_schema.h"

@@ -16,7 +16,7 @@ def stale_files(library, outputs):
     """Names of files in the generated folder or with our banner that no table gives any more."""
     names = (path.relative_to(library).as_posix() for path in sorted(library.rglob("*")) if path.suffix in (".h", ".cpp"))
     return [name for name in names if name not in outputs and (
-        name.startswith(GENERATED) or f" by {GENERATOR}." in (library / name).read_text(encoding="utf-8"))]
+        name.startswith(GENERATED) or f"by {GENERATOR}." in (library / name).read_text(encoding="utf-8"))]
 
 
 def write(library, outputs):

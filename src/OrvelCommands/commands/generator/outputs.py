@@ -10,8 +10,8 @@ GENERATOR = "src/OrvelCommands/commands/generator"
 GENERATED = "commands/LocalGenerated"
 TEMPLATES = Path(__file__).parent / "templates"
 
-BANNER = Template("/// Generated from $tables by $generator. Do not edit: change\n"
-                  "/// the table and run `$command_line`.")
+BANNER = Template("/// Generated from $tables\n"
+                  "/// by $generator. Do not edit: change the table and run `$command_line`.")
 
 
 class TemplateError(Exception):
@@ -29,7 +29,7 @@ def fill(template, **values):
 
 
 def banner(*tables):
-    names = " and ".join(f"commands/{table.name}.toml" for table in tables)
+    names = " and ".join(f"{table.name}.toml" for table in tables)
     return BANNER.substitute(tables=names, generator=GENERATOR, command_line=COMMAND_LINE)
 
 
@@ -100,8 +100,12 @@ class AggregateText:
 
     def header(self):
         includes = "".join(f'#include "OrvelCommands/commands/{table.name}.h"\n' for table in self.tables)
+        has_one = any(text.command.count == "one" for text in self.commands)
         return fill("aggregate.h.tmpl", banner=banner(*self.tables), aggregate=self.aggregate.class_name,
                     doc=self.aggregate.doc, includes=includes, getters=self.each("aggregate_getters.h"),
+                    getters_of_one=fill("aggregate_one.h.tmpl") if has_one else "",
+                    then_links=", then links them by their references" if self.linked else "",
+                    load_throws=fill("aggregate_load_throws.h.tmpl") if self.linked else "",
                     members=self.each("aggregate_members.h"))
 
     def source(self):
