@@ -3,8 +3,8 @@
 
 #include "OrvelCmdEngine/OrvelCmdContainer.h"
 #include "OrvelCommands/foundation/KLV_Failure.h"
-#include "OrvelCommands/parfile/Gyre_Parfile.h"
 #include "OrvelCommands/parfile/for_each_command.h"
+#include "OrvelCommands/parfile/Gyre_Parfile.h"
 #include "OrvelCommands/storage/OrvelParfileStorageCmdContainer.h"
 #include "OrvelUtilities/KLV_LogMacros.h"
 
@@ -132,7 +132,9 @@ int main()
     OrvelParfileStorageCmdContainer storage(job);
     Gyre_Parfile parfile(storage);
     parfile.Load();
-    KLV_LogMacros::SetSink([](const KLV_LogRecord& record) { std::cout << record.prefix << "\n" << record.text << "\n"; });
+    KLV_LogMacros::SetSink([](const KLV_LogRecord& record) {
+      std::cout << record.prefix << "\n" << record.text << "\n";
+    });
     orvel::ForEachCommand(parfile, [](const auto& command) { command.ToString(); });
   }
   catch (const KLV_Failure& failure)

@@ -29,6 +29,5 @@ KLV_LogRecord LogRecordOf(const Command& command)
 {
   const CapturedLog log;
   command.ToString();
-  return log.Records().size() == 1 ? log.Records().front()
-                                   : KLV_LogRecord{"not one record", 0, "", ""};
+  return log.Records().size() == 1 ? log.Records().front() : KLV_LogRecord{"not one record", 0, "", ""};
 }

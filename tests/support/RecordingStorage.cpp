@@ -63,8 +63,7 @@ std::uint64_t RecordingStorage::GetNumElements(const std::string& command, const
   return values != nullptr ? values->size() : 0;
 }
 
-bool RecordingStorage::HasElement(const std::string& command, const std::string& id_name,
-                                  const std::string& key) const
+bool RecordingStorage::HasElement(const std::string& command, const std::string& id_name, const std::string& key) const
 {
   Record("HasElement(" + command + ", " + id_name + ", " + key + ")");
   return FindKey(command, id_name, key) != nullptr;
@@ -128,8 +127,8 @@ void RecordingStorage::GetValue(const std::string& command, const std::string& i
 void RecordingStorage::GetEnumValue(const std::string& command, const std::string& id_name, const std::string& key,
                                     std::uint64_t index, VtmType type, int& value) const
 {
-  Record("GetEnumValue(" + command + ", " + id_name + ", " + key + ", " + std::to_string(index) + ", " +
-         NameOf(type) + ")");
+  Record("GetEnumValue(" + command + ", " + id_name + ", " + key + ", " + std::to_string(index) + ", " + NameOf(type) +
+         ")");
   Read(command, id_name, key, index, value);
 }
 

@@ -68,8 +68,8 @@ public:
                                const std::string& key) const override;
   bool HasElement(const std::string& command, const std::string& id_name, const std::string& key) const override;
   void GetCommandName(const std::string& command, std::uint64_t position, std::string& id_name) const override;
-  void GetReference(const std::string& command, const std::string& id_name, const std::string& key,
-                    std::uint64_t index, std::string& target_id_name) const override;
+  void GetReference(const std::string& command, const std::string& id_name, const std::string& key, std::uint64_t index,
+                    std::string& target_id_name) const override;
   void GetValue(const std::string& command, const std::string& id_name, const std::string& key, std::uint64_t index,
                 VtmType type, std::vector<double>& value) const override;
   void GetValue(const std::string& command, const std::string& id_name, const std::string& key, std::uint64_t index,
@@ -80,37 +80,69 @@ public:
                 VtmType type, double& value) const override;
   void GetValue(const std::string& command, const std::string& id_name, const std::string& key, std::uint64_t index,
                 VtmType type, int& value) const override;
-  void GetEnumValue(const std::string& command, const std::string& id_name, const std::string& key,
-                    std::uint64_t index, VtmType type, int& value) const override;
+  void GetEnumValue(const std::string& command, const std::string& id_name, const std::string& key, std::uint64_t index,
+                    VtmType type, int& value) const override;
 
   void SetValue(const std::string&, const std::string&, const std::string&, int, VtmType,
-                const std::vector<double>&) const override { RefuseToWrite(); }
+                const std::vector<double>&) const override
+  {
+    RefuseToWrite();
+  }
   void SetValue(const std::string&, const std::string&, const std::string&, int, VtmType,
-                const std::vector<int>&) const override { RefuseToWrite(); }
+                const std::vector<int>&) const override
+  {
+    RefuseToWrite();
+  }
+  void SetValue(const std::string&, const std::string&, const std::string&, int, VtmType, const char&) const override
+  {
+    RefuseToWrite();
+  }
   void SetValue(const std::string&, const std::string&, const std::string&, int, VtmType,
-                const char&) const override { RefuseToWrite(); }
-  void SetValue(const std::string&, const std::string&, const std::string&, int, VtmType,
-                const std::string&) const override { RefuseToWrite(); }
-  void SetValue(const std::string&, const std::string&, const std::string&, int, VtmType,
-                const double&) const override { RefuseToWrite(); }
-  void SetValue(const std::string&, const std::string&, const std::string&, int, VtmType,
-                const int&) const override { RefuseToWrite(); }
+                const std::string&) const override
+  {
+    RefuseToWrite();
+  }
+  void SetValue(const std::string&, const std::string&, const std::string&, int, VtmType, const double&) const override
+  {
+    RefuseToWrite();
+  }
+  void SetValue(const std::string&, const std::string&, const std::string&, int, VtmType, const int&) const override
+  {
+    RefuseToWrite();
+  }
   void AddValue(const std::string&, const std::string&, const std::string&, VtmType,
-                const std::vector<double>&) const override { RefuseToWrite(); }
+                const std::vector<double>&) const override
+  {
+    RefuseToWrite();
+  }
   void AddValue(const std::string&, const std::string&, const std::string&, VtmType,
-                const std::vector<int>&) const override { RefuseToWrite(); }
-  void AddValue(const std::string&, const std::string&, const std::string&, VtmType,
-                const char&) const override { RefuseToWrite(); }
-  void AddValue(const std::string&, const std::string&, const std::string&, VtmType,
-                const std::string&) const override { RefuseToWrite(); }
-  void AddValue(const std::string&, const std::string&, const std::string&, VtmType,
-                const double&) const override { RefuseToWrite(); }
-  void AddValue(const std::string&, const std::string&, const std::string&, VtmType,
-                const int&) const override { RefuseToWrite(); }
+                const std::vector<int>&) const override
+  {
+    RefuseToWrite();
+  }
+  void AddValue(const std::string&, const std::string&, const std::string&, VtmType, const char&) const override
+  {
+    RefuseToWrite();
+  }
+  void AddValue(const std::string&, const std::string&, const std::string&, VtmType, const std::string&) const override
+  {
+    RefuseToWrite();
+  }
+  void AddValue(const std::string&, const std::string&, const std::string&, VtmType, const double&) const override
+  {
+    RefuseToWrite();
+  }
+  void AddValue(const std::string&, const std::string&, const std::string&, VtmType, const int&) const override
+  {
+    RefuseToWrite();
+  }
   void DeleteValues(const std::string&, const std::string&, const std::string&) override { RefuseToWrite(); }
   void AddCommand(const std::string&, const std::string&) const override { RefuseToWrite(); }
   void AddReference(const std::string&, const std::string&, const std::string&, const std::string&,
-                    const std::string&) const override { RefuseToWrite(); }
+                    const std::string&) const override
+  {
+    RefuseToWrite();
+  }
 
 private:
   struct StoredCommand
@@ -127,8 +159,8 @@ private:
   template <class Value>
   void Read(const std::string& command, const std::string& id_name, const std::string& key, std::uint64_t index,
             Value& value) const;
-  void RecordValue(const std::string& command, const std::string& id_name, const std::string& key,
-                   std::uint64_t index, VtmType type, const char* output) const;
+  void RecordValue(const std::string& command, const std::string& id_name, const std::string& key, std::uint64_t index,
+                   VtmType type, const char* output) const;
 
   std::map<std::string, std::vector<StoredCommand>> m_commands;
   bool m_keep_absent = false;

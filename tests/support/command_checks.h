@@ -4,9 +4,9 @@
 
 #include "OrvelCommands/parfile/Gyre_Parfile.h"
 #include "OrvelUtilities/KLV_LogRecord.h"
+#include "support/failures.h"
 #include "support/OpenDatabase.h"
 #include "support/RecordingStorage.h"
-#include "support/failures.h"
 #include "support/required_commands.h"
 
 #include <gtest/gtest.h>

@@ -150,14 +150,12 @@ std::uint64_t CountOf(const Gyre_Parfile& parfile, const SingleKind<Command>& ki
 inline std::vector<std::string> CommandCounts(const Gyre_Parfile& parfile)
 {
   std::vector<std::string> counts;
-  ForEachKind(
-    [&](const auto& kind)
+  ForEachKind([&](const auto& kind) {
+    const std::uint64_t count = CountOf(parfile, kind);
+    if (count != 0)
     {
-      const std::uint64_t count = CountOf(parfile, kind);
-      if (count != 0)
-      {
-        counts.push_back(std::string(kind.name) + " " + std::to_string(count));
-      }
-    });
+      counts.push_back(std::string(kind.name) + " " + std::to_string(count));
+    }
+  });
   return counts;
 }

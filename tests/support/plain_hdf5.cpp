@@ -105,19 +105,20 @@ std::string NameOfType(hid_t type)
   const std::string bytes = std::to_string(size) + (size == 1 ? " byte" : " bytes");
   switch (H5Tget_class(type))
   {
-  case H5T_INTEGER: return (H5Tget_sign(type) == H5T_SGN_2 ? "signed integer of " : "unsigned integer of ") + bytes;
-  case H5T_FLOAT:
-    return (H5Tequal(type, H5T_IEEE_F64LE) > 0 || H5Tequal(type, H5T_IEEE_F64BE) > 0 ? "IEEE float of " : "float of ") +
-           bytes;
-  case H5T_STRING: return H5Tis_variable_str(type) > 0 ? "variable-length string" : "string of " + bytes;
-  case H5T_REFERENCE:
-    return (H5Tequal(type, H5T_STD_REF_OBJ) > 0 ? "object reference of " : "region reference of ") + bytes;
-  case H5T_VLEN:
-  {
-    const Id item{H5Tget_super(type), H5Tclose, "get the type of a sequence's items"};
-    return "sequence of " + NameOfType(item);
-  }
-  default: return "another type";
+    case H5T_INTEGER: return (H5Tget_sign(type) == H5T_SGN_2 ? "signed integer of " : "unsigned integer of ") + bytes;
+    case H5T_FLOAT:
+      return (H5Tequal(type, H5T_IEEE_F64LE) > 0 || H5Tequal(type, H5T_IEEE_F64BE) > 0 ? "IEEE float of "
+                                                                                       : "float of ") +
+             bytes;
+    case H5T_STRING: return H5Tis_variable_str(type) > 0 ? "variable-length string" : "string of " + bytes;
+    case H5T_REFERENCE:
+      return (H5Tequal(type, H5T_STD_REF_OBJ) > 0 ? "object reference of " : "region reference of ") + bytes;
+    case H5T_VLEN:
+    {
+      const Id item{H5Tget_super(type), H5Tclose, "get the type of a sequence's items"};
+      return "sequence of " + NameOfType(item);
+    }
+    default: return "another type";
   }
 }
 

@@ -10,10 +10,16 @@
 inline void AddRequiredCommands(RecordingStorage& storage)
 {
   storage.KeepOutputsOfAbsentKeys();
-  for (const auto& [kind, id] : {std::pair{"MODEL_", "model"}, {"OBJ_FUNC_", "objective"}, {"FLOWPATHS_", "paths"},
-                                 {"DV_", "variable"}, {"OPT_PARAM_", "settings"}, {"STOP_", "settings"},
-                                 {"PRE_PARAM_", "settings"}, {"AS_TOPO_OC_", "settings"},
-                                 {"AS_TOPO_SENS_", "settings"}, {"AS_SHAPE_SENS_", "settings"}})
+  for (const auto& [kind, id] : {std::pair{"MODEL_", "model"},
+                                 {"OBJ_FUNC_", "objective"},
+                                 {"FLOWPATHS_", "paths"},
+                                 {"DV_", "variable"},
+                                 {"OPT_PARAM_", "settings"},
+                                 {"STOP_", "settings"},
+                                 {"PRE_PARAM_", "settings"},
+                                 {"AS_TOPO_OC_", "settings"},
+                                 {"AS_TOPO_SENS_", "settings"},
+                                 {"AS_SHAPE_SENS_", "settings"}})
   {
     storage.Command(kind, id);
   }

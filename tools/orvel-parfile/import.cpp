@@ -43,10 +43,10 @@ void Import(const Options& options)
 void AddImport(CLI::App& tool)
 {
   const auto options = std::make_shared<Options>();
-  CLI::App* import = tool.add_subcommand("import", "Make a parameter file from a job description.");
-  import->add_option("job", options->job, "The job description, a TOML file")->required();
-  import->add_option("file", options->file, "The new parameter file or its folder")->capture_default_str();
-  import->add_flag("--force", options->force, "Replace a file that is there");
-  import->footer("Example: orvel-parfile import job.toml run/");
-  import->callback([options] { Import(*options); });
+  CLI::App* sub = tool.add_subcommand("import", "Make a parameter file from a job description.");
+  sub->add_option("job", options->job, "The job description, a TOML file")->required();
+  sub->add_option("file", options->file, "The new parameter file or its folder")->capture_default_str();
+  sub->add_flag("--force", options->force, "Replace a file that is there");
+  sub->footer("Example: orvel-parfile import job.toml run/");
+  sub->callback([options] { Import(*options); });
 }

@@ -231,8 +231,8 @@ private:
       key.items.push_back({std::move(*value), PlaceOf(node)});
       return;
     }
-    std::string fault = owner + ": " + std::string(key.field->key) + " must be " +
-                        ExpectedValue(key.field->type) + ", not " + NodeText(node);
+    std::string fault = owner + ": " + std::string(key.field->key) + " must be " + ExpectedValue(key.field->type) +
+                        ", not " + NodeText(node);
     if (!key.field->enumerators.empty())
     {
       fault += "; " + NearestName(node.value_or(std::string()), EnumeratorNames(*key.field));

@@ -14,8 +14,8 @@ const std::map<std::string, KLV_IdType>& Lists()
 {
   static const std::map<std::string, KLV_IdType> lists = [] {
     std::map<std::string, KLV_IdType> all;
-    for (const KLV_IdType type : {KLV_IdType::element_group, KLV_IdType::node_group, KLV_IdType::face_group,
-                                  KLV_IdType::coordinate_system})
+    for (const KLV_IdType type :
+         {KLV_IdType::element_group, KLV_IdType::node_group, KLV_IdType::face_group, KLV_IdType::coordinate_system})
     {
       all.emplace(IdListName(type), type);
     }
@@ -51,7 +51,7 @@ std::size_t ReadModelIds(const std::filesystem::path& path, KLV_Database& databa
     if (list == Lists().end() || !node->is_array())
     {
       fault(*node, list == Lists().end() ? "there is no list " + name + "; " + NearestName(name, ListNames())
-                                       : name + " must be an array of names");
+                                         : name + " must be an array of names");
       continue;
     }
     KLV_IdMap& ids = database.GetIdMapsPool().GetIdMap(list->second);

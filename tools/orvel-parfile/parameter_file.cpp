@@ -49,8 +49,7 @@ void BringToDisk(const fs::path& path)
   }
 }
 
-void WriteValue(const ParfileHdf5Storage& storage, const JobCommand& command, const JobKey& key,
-                const JobValue& value)
+void WriteValue(const ParfileHdf5Storage& storage, const JobCommand& command, const JobKey& key, const JobValue& value)
 {
   const std::string kind(command.kind->kind);
   const std::string name(key.field->key);

@@ -90,8 +90,9 @@ void PrintText(const schema::Command& command)
 
 void PrintMarkdown(const schema::Command& command)
 {
-  std::cout << "\n## " << command.kind << "\n\n" << command.documentation << " A job has " << CountText(command.count)
-            << "; a parameter file calls it `" << command.text_name << "`.\n\n"
+  std::cout << "\n## " << command.kind << "\n\n"
+            << command.documentation << " A job has " << CountText(command.count) << "; a parameter file calls it `"
+            << command.text_name << "`.\n\n"
             << "| Key | Value | There | What it is |\n|---|---|---|---|\n";
   for (const schema::Field& field : command.fields)
   {
@@ -156,8 +157,7 @@ void Schema(const Options& options)
 {
   if (!options.kind.empty() && schema::FindCommand(options.kind) == nullptr)
   {
-    throw UnusableInput("there is no kind of command " + options.kind + "; " +
-                        NearestName(options.kind, KindNames()));
+    throw UnusableInput("there is no kind of command " + options.kind + "; " + NearestName(options.kind, KindNames()));
   }
   if (options.json_schema)
   {

@@ -3,8 +3,8 @@
 /// Constants only, safe from any thread.
 #pragma once
 
-#include "OrvelCommands/commands/LocalGenerated/command_schema_data.h"
 #include "OrvelCommands/commands/command_schema_types.h"
+#include "OrvelCommands/commands/LocalGenerated/command_schema_data.h"
 
 namespace orvel::schema
 {

@@ -54,13 +54,13 @@ enum class Presence
 /// One key of a command.
 struct Field
 {
-  std::string_view key;                  ///< With its trailing underscore.
-  VtmType type;                          ///< What moves the value; `vtmReference` for a reference to a command.
+  std::string_view key;  ///< With its trailing underscore.
+  VtmType type;          ///< What moves the value; `vtmReference` for a reference to a command.
   Presence presence;
-  std::string_view target;               ///< The kind of command that a reference names, else empty.
-  std::optional<KLV_IdType> id_type;     ///< Which names of the model a `vtmModelId` is checked against.
-  Rows<Enumerator> enumerators;          ///< Of a `vtmEnum`, else empty.
-  std::string_view documentation;        ///< One line.
+  std::string_view target;            ///< The kind of command that a reference names, else empty.
+  std::optional<KLV_IdType> id_type;  ///< Which names of the model a `vtmModelId` is checked against.
+  Rows<Enumerator> enumerators;       ///< Of a `vtmEnum`, else empty.
+  std::string_view documentation;     ///< One line.
 };
 
 /// How many commands of a kind a job has.
@@ -73,8 +73,8 @@ enum class Count
 /// One kind of command.
 struct Command
 {
-  std::string_view kind;           ///< The class's name and the name in a storage, "DV_".
-  std::string_view text_name;      ///< The name in the text of a parameter file, "DV".
+  std::string_view kind;       ///< The class's name and the name in a storage, "DV_".
+  std::string_view text_name;  ///< The name in the text of a parameter file, "DV".
   Count count;
   Rows<Field> fields;              ///< In the order of the class's members.
   std::string_view documentation;  ///< One line.

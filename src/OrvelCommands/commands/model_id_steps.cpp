@@ -51,8 +51,7 @@ void ModelIdChecker::Check(const char* key, std::uint64_t index, KLV_IdType ids)
   m_storage.GetValue(m_command.kind, m_storage_id, key, index, vtmModelId, value);
   if (OrvelDbInstance::s_Singleton == nullptr)
   {
-    ThrowFailure(LogPrefix(kModuleName, m_command.kind.c_str()), kNoDatabase,
-                 {m_command.text_name, m_command.id_name});
+    ThrowFailure(LogPrefix(kModuleName, m_command.kind.c_str()), kNoDatabase, {m_command.text_name, m_command.id_name});
   }
   KLV_IdMap& map = OrvelDbInstance::s_Singleton->GetIdMapsPool().GetIdMap(ids);
   if (map.Has(value))

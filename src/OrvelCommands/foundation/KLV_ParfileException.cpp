@@ -16,9 +16,8 @@ KLV_ParfileException::KLV_ParfileException(const std::string& message, const std
     m_id_name(id_name),
     m_command(command)
 {
-  m_message += KLV_MESSAGE(
-    "\n  Value \"%s\" of parameter \"%s\" is erroneous\n  In \"%s\" command with ID_NAME \"%s\"",
-    m_value.c_str(), m_parameter.c_str(), m_command.c_str(), m_id_name.c_str());
+  m_message += KLV_MESSAGE("\n  Value \"%s\" of parameter \"%s\" is erroneous\n  In \"%s\" command with ID_NAME \"%s\"",
+                           m_value.c_str(), m_parameter.c_str(), m_command.c_str(), m_id_name.c_str());
 }
 
 KLV_ParfileException::KLV_ParfileException(const KLV_ParfileException& other) = default;

@@ -13,7 +13,8 @@
 /// A parameter file as a tree of texts: commands of a kind, their keys, the values of a key.
 ///
 /// The address of a value:
-/// - \c command: the kind of command with its trailing underscore, such as "DV_"; the same text as the class's `s_type`.
+/// - \c command: the kind of command with its trailing underscore, such as "DV_"; the same text as the class's
+/// `s_type`.
 /// - \c id_name: the `ID_NAME` of one command. Names are unique within a kind, not across kinds.
 /// - \c key: one parameter with its trailing underscore, such as "TYPE_".
 /// - \c index: the place of a value among the values of the key. **The first value has index 1**, and no operation

@@ -19,8 +19,8 @@ struct XmlvtmIdname
   {
   }
 
-  std::int32_t command = -1;  ///< The kind of the command.
-  std::int32_t position = -1;  ///< Its place among the commands of its kind.
-  std::int32_t name_begin = -1;  ///< Where its name begins in the table of characters.
+  std::int32_t command = -1;      ///< The kind of the command.
+  std::int32_t position = -1;     ///< Its place among the commands of its kind.
+  std::int32_t name_begin = -1;   ///< Where its name begins in the table of characters.
   std::int32_t name_length = -1;  ///< How many characters its name has.
 };

@@ -6,7 +6,8 @@
 
 /// What one table holds, as a row of the database. The names of the fields tell what the modules that keep this table
 /// agree upon; the library carries the record and reads none of them.
-/// \warning It has no constructor: the fields of `XmlvtmInfoRecord()` are 0, those of a plain local variable are not set.
+/// \warning It has no constructor: the fields of `XmlvtmInfoRecord()` are 0, those of a plain local variable are not
+/// set.
 struct XmlvtmInfoRecord
 {
   /// Describes the row to the database: a letter for each field and one that closes it.

@@ -4,8 +4,8 @@
 
 #include <cstdint>
 
-/// A name that a command takes from the model, as a row of the database. The names of the fields tell what the modules that keep
-/// this table agree upon; the library carries the record and reads none of them.
+/// A name that a command takes from the model, as a row of the database. The names of the fields tell what the modules
+/// that keep this table agree upon; the library carries the record and reads none of them.
 struct XmlvtmModelId
 {
   /// Describes the row to the database: a letter for each field and one that closes it.
@@ -14,12 +14,9 @@ struct XmlvtmModelId
   /// Every field is -1.
   XmlvtmModelId() = default;
 
-  XmlvtmModelId(int command_, int item_, int model_id_)
-    : command(command_), item(item_), model_id(model_id_)
-  {
-  }
+  XmlvtmModelId(int command_, int item_, int model_id_) : command(command_), item(item_), model_id(model_id_) {}
 
-  std::int32_t command = -1;  ///< The row of the command in the table of names.
-  std::int32_t item = -1;  ///< The kind of item that holds the name.
+  std::int32_t command = -1;   ///< The row of the command in the table of names.
+  std::int32_t item = -1;      ///< The kind of item that holds the name.
   std::int32_t model_id = -1;  ///< The number of the name in the id map of its kind.
 };

@@ -15,13 +15,17 @@ struct XmlvtmReference
   XmlvtmReference() = default;
 
   XmlvtmReference(int source_command_, int source_position_, int item_, int target_command_, int target_position_)
-    : source_command(source_command_), source_position(source_position_), item(item_), target_command(target_command_), target_position(target_position_)
+    : source_command(source_command_),
+      source_position(source_position_),
+      item(item_),
+      target_command(target_command_),
+      target_position(target_position_)
   {
   }
 
-  std::int32_t source_command = -1;  ///< The kind of the command that refers.
+  std::int32_t source_command = -1;   ///< The kind of the command that refers.
   std::int32_t source_position = -1;  ///< Its place among the commands of its kind.
-  std::int32_t item = -1;  ///< The kind of item that holds the reference.
-  std::int32_t target_command = -1;  ///< The kind of the command referred to.
+  std::int32_t item = -1;             ///< The kind of item that holds the reference.
+  std::int32_t target_command = -1;   ///< The kind of the command referred to.
   std::int32_t target_position = -1;  ///< Its place among the commands of its kind.
 };

@@ -147,10 +147,16 @@ std::string PrintZero(const Conversion& conversion)
   {
     case '%': return "%";
     case 'n': return {};
-    case 'd': case 'i': return print(conversion.type, 0);
-    case 'o': case 'u': case 'x': case 'X': return print(conversion.type, 0U);
-    case 'c': case 'C': return print('c', 0);
-    case 's': case 'S': return print('s', "");
+    case 'd':
+    case 'i': return print(conversion.type, 0);
+    case 'o':
+    case 'u':
+    case 'x':
+    case 'X': return print(conversion.type, 0U);
+    case 'c':
+    case 'C': return print('c', 0);
+    case 's':
+    case 'S': return print('s', "");
     case 'p': return print('p', static_cast<const void*>(nullptr));
     default: return print(conversion.type, 0.0);
   }

@@ -15,10 +15,10 @@ namespace orvel::detail
 class PrintArgument
 {
 public:
-  PrintArgument(int value) : m_value(value) {}                              // NOLINT(google-explicit-constructor)
-  PrintArgument(std::uint64_t value) : m_value(value) {}                    // NOLINT(google-explicit-constructor)
-  PrintArgument(const char* text) : m_value(text) {}                        // NOLINT(google-explicit-constructor)
-  PrintArgument(const std::string& text) : m_value(text.c_str()) {}         // NOLINT(google-explicit-constructor)
+  PrintArgument(int value) : m_value(value) {}                       // NOLINT(google-explicit-constructor)
+  PrintArgument(std::uint64_t value) : m_value(value) {}             // NOLINT(google-explicit-constructor)
+  PrintArgument(const char* text) : m_value(text) {}                 // NOLINT(google-explicit-constructor)
+  PrintArgument(const std::string& text) : m_value(text.c_str()) {}  // NOLINT(google-explicit-constructor)
 
   /// The argument as a text, empty for a number.
   const char* AsText() const;
@@ -39,7 +39,8 @@ constexpr std::size_t kBoundedPrintLimit = 1023;
 /// `%s`, `%d` and `%Iu` without flags take the next argument. Every other conversion, and each of these when no
 /// argument is left, prints what printf gives for a zero, an empty text or a null, so that a finished text which
 /// happens to hold a "%" can stand as the format: nothing is ever read that was not passed. `%%` gives "%", `%n`
-/// writes nothing, widths and precisions are limited to 4096, and what is no conversion stays as it stands. As in a C string, a NUL byte (`%c` of a zero) ends the result.
+/// writes nothing, widths and precisions are limited to 4096, and what is no conversion stays as it stands. As in a C
+/// string, a NUL byte (`%c` of a zero) ends the result.
 ///
 /// Cost: linear in the format.
 std::string BoundedPrint(const char* format, std::initializer_list<PrintArgument> arguments = {});

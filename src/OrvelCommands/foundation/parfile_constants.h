@@ -34,12 +34,15 @@ inline constexpr const char* XMLVTM_ALL = "ALL";
 
 /// The name of each kind of parsed command in the text of a parameter file, by its number in `OrvelCmdDefs::Cmd`. No
 /// trailing underscore, other than the kinds of a storage.
+// clang-format off
 inline constexpr std::array<const char*, 21> CMD_NAMES = {
   "MODEL_INPUT", "GROUP_DEF", "DV",              "DRESP",        "OPERATOR",    "OBJ_FUNC", "CONSTRAINT",
   "DV_CONSTRAINT", "MESH_SMOOTH", "OPTIMIZE",    "OPT_PARAM",    "STOP",        "OUTPUT",   "SMOOTH",
   "OPTIONS",     "DV_UPDATE_PARAM", "SCALING_CURVE", "FILTER",   "CONTOURPLOT", "REPORT",   "CMD_PLACEHOLDER"};
+// clang-format on
 
 /// The name of each kind of item of a parsed command, by its number in `OrvelCmdItemDefs::CmdItem`.
+// clang-format off
 inline constexpr std::array<const char*, 39> CMD_ITEM_NAMES = {
   "ID_NAME",     "TYPE",          "FILE",            "ADD_FILE",       "GROUP",       "ELEMENT_GROUP", "NODE_GROUP",
   "FACE_GROUP",  "DRESP",         "TARGET",          "VALUE",          "MIN",         "MAX",           "LIST_BEGIN",
@@ -47,6 +50,7 @@ inline constexpr std::array<const char*, 39> CMD_ITEM_NAMES = {
   "ITER_MAX",    "OPT_PARAM",     "DV_UPDATE_PARAM", "REFERENCE",      "COEFFICIENT", "SOLVER_RUN_MODE",
   "SENS_CALC_MODE", "UPDATE_TYPE", "UPDATE_ID",      "FORMAT",         "DESCRIPTION", "DIRECTION",     "LOADCASE",
   "MAGNITUDE",   "LOWER",         "UPPER",           "CS",             "PLACEHOLDER"};
+// clang-format on
 
 /// \name Texts of the optimization database
 /// @{

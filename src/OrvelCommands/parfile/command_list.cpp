@@ -45,9 +45,8 @@ void ReportProblems(const std::vector<KLV_ParfileException>& problems, const cha
   {
     return;
   }
-  std::string text = std::to_string(problems.size()) +
-                     " model IDs referenced in the parameter file cannot be found.\n"
-                     "Please check your parameterfile for errors.\n";
+  std::string text = std::to_string(problems.size()) + " model IDs referenced in the parameter file cannot be found.\n"
+                                                       "Please check your parameterfile for errors.\n";
   for (const KLV_ParfileException& problem : problems)
   {
     text += problem.GetMessage() + "\n";

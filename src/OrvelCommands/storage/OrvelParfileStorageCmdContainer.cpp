@@ -1,7 +1,7 @@
 #include "OrvelCommands/storage/OrvelParfileStorageCmdContainer.h"
 
-#include "OrvelCmdEngine/OrvelCmdReferenceItem.h"
 #include "OrvelCmdEngine/OrvelCmd_Util.h"
+#include "OrvelCmdEngine/OrvelCmdReferenceItem.h"
 
 #include <algorithm>
 
@@ -70,8 +70,8 @@ OrvelParfileStorageCmdContainer::OrvelParfileStorageCmdContainer(const OrvelCmdC
 OrvelParfileStorageCmdContainer::OrvelParfileStorageCmdContainer(const OrvelParfileStorageCmdContainer& other) =
   default;
 
-OrvelParfileStorageCmdContainer& OrvelParfileStorageCmdContainer::operator=(
-  const OrvelParfileStorageCmdContainer& other) = default;
+OrvelParfileStorageCmdContainer&
+OrvelParfileStorageCmdContainer::operator=(const OrvelParfileStorageCmdContainer& other) = default;
 
 OrvelParfileStorageCmdContainer::~OrvelParfileStorageCmdContainer() = default;
 
@@ -120,8 +120,7 @@ std::uint64_t OrvelParfileStorageCmdContainer::FilteredCount(const CommandRecord
                        [&](const auto& cmd) { return cmd != nullptr && PassesFilter(record, *cmd); });
 }
 
-std::uint64_t OrvelParfileStorageCmdContainer::DvCount(const CommandRecord& record,
-                                                       const OrvelCmdContainer& container)
+std::uint64_t OrvelParfileStorageCmdContainer::DvCount(const CommandRecord& record, const OrvelCmdContainer& container)
 {
   return PlainCount(record, container) + (HasMergedDv(container) ? 1 : 0);
 }
@@ -181,8 +180,7 @@ void OrvelParfileStorageCmdContainer::MergedDvMembers(const OrvelCmd* cmd, CmdIt
 
 // Several design variables appear as one reference to the merged one.
 void OrvelParfileStorageCmdContainer::OptimizeDvReferences(const OrvelCmd* cmd, CmdItem item,
-                                                           const OrvelCmdContainer& container,
-                                                           const ItemReader& reader)
+                                                           const OrvelCmdContainer& container, const ItemReader& reader)
 {
   if (cmd == nullptr)
   {
@@ -401,82 +399,76 @@ void OrvelParfileStorageCmdContainer::GetEnumValue(const std::string& command, c
 
 // What parsed commands cannot give or take.
 
-void OrvelParfileStorageCmdContainer::GetValue(
-  const std::string&, const std::string&, const std::string&, std::uint64_t, VtmType, std::vector<double>&) const
+void OrvelParfileStorageCmdContainer::GetValue(const std::string&, const std::string&, const std::string&,
+                                               std::uint64_t, VtmType, std::vector<double>&) const
 {
 }
 
-void OrvelParfileStorageCmdContainer::SetValue(
-  const std::string&, const std::string&, const std::string&, int, VtmType, const std::vector<double>&) const
+void OrvelParfileStorageCmdContainer::SetValue(const std::string&, const std::string&, const std::string&, int, VtmType,
+                                               const std::vector<double>&) const
 {
 }
 
-void OrvelParfileStorageCmdContainer::SetValue(
-  const std::string&, const std::string&, const std::string&, int, VtmType, const std::vector<int>&) const
+void OrvelParfileStorageCmdContainer::SetValue(const std::string&, const std::string&, const std::string&, int, VtmType,
+                                               const std::vector<int>&) const
 {
 }
 
-void OrvelParfileStorageCmdContainer::SetValue(
-  const std::string&, const std::string&, const std::string&, int, VtmType, const char&) const
+void OrvelParfileStorageCmdContainer::SetValue(const std::string&, const std::string&, const std::string&, int, VtmType,
+                                               const char&) const
 {
 }
 
-void OrvelParfileStorageCmdContainer::SetValue(
-  const std::string&, const std::string&, const std::string&, int, VtmType, const std::string&) const
+void OrvelParfileStorageCmdContainer::SetValue(const std::string&, const std::string&, const std::string&, int, VtmType,
+                                               const std::string&) const
 {
 }
 
-void OrvelParfileStorageCmdContainer::SetValue(
-  const std::string&, const std::string&, const std::string&, int, VtmType, const double&) const
+void OrvelParfileStorageCmdContainer::SetValue(const std::string&, const std::string&, const std::string&, int, VtmType,
+                                               const double&) const
 {
 }
 
-void OrvelParfileStorageCmdContainer::SetValue(
-  const std::string&, const std::string&, const std::string&, int, VtmType, const int&) const
+void OrvelParfileStorageCmdContainer::SetValue(const std::string&, const std::string&, const std::string&, int, VtmType,
+                                               const int&) const
 {
 }
 
-void OrvelParfileStorageCmdContainer::AddValue(
-  const std::string&, const std::string&, const std::string&, VtmType, const std::vector<double>&) const
+void OrvelParfileStorageCmdContainer::AddValue(const std::string&, const std::string&, const std::string&, VtmType,
+                                               const std::vector<double>&) const
 {
 }
 
-void OrvelParfileStorageCmdContainer::AddValue(
-  const std::string&, const std::string&, const std::string&, VtmType, const std::vector<int>&) const
+void OrvelParfileStorageCmdContainer::AddValue(const std::string&, const std::string&, const std::string&, VtmType,
+                                               const std::vector<int>&) const
 {
 }
 
-void OrvelParfileStorageCmdContainer::AddValue(
-  const std::string&, const std::string&, const std::string&, VtmType, const char&) const
+void OrvelParfileStorageCmdContainer::AddValue(const std::string&, const std::string&, const std::string&, VtmType,
+                                               const char&) const
 {
 }
 
-void OrvelParfileStorageCmdContainer::AddValue(
-  const std::string&, const std::string&, const std::string&, VtmType, const std::string&) const
+void OrvelParfileStorageCmdContainer::AddValue(const std::string&, const std::string&, const std::string&, VtmType,
+                                               const std::string&) const
 {
 }
 
-void OrvelParfileStorageCmdContainer::AddValue(
-  const std::string&, const std::string&, const std::string&, VtmType, const double&) const
+void OrvelParfileStorageCmdContainer::AddValue(const std::string&, const std::string&, const std::string&, VtmType,
+                                               const double&) const
 {
 }
 
-void OrvelParfileStorageCmdContainer::AddValue(
-  const std::string&, const std::string&, const std::string&, VtmType, const int&) const
+void OrvelParfileStorageCmdContainer::AddValue(const std::string&, const std::string&, const std::string&, VtmType,
+                                               const int&) const
 {
 }
 
-void OrvelParfileStorageCmdContainer::DeleteValues(
-  const std::string&, const std::string&, const std::string&)
-{
-}
+void OrvelParfileStorageCmdContainer::DeleteValues(const std::string&, const std::string&, const std::string&) {}
 
-void OrvelParfileStorageCmdContainer::AddCommand(
-  const std::string&, const std::string&) const
-{
-}
+void OrvelParfileStorageCmdContainer::AddCommand(const std::string&, const std::string&) const {}
 
-void OrvelParfileStorageCmdContainer::AddReference(
-  const std::string&, const std::string&, const std::string&, const std::string&, const std::string&) const
+void OrvelParfileStorageCmdContainer::AddReference(const std::string&, const std::string&, const std::string&,
+                                                   const std::string&, const std::string&) const
 {
 }

@@ -21,11 +21,11 @@
 
 /// The commands that the engine has parsed, read as a parameter file. No file is needed and nothing can be written.
 ///
-/// Only some kinds and keys come from parsed commands, as docs/parsed_commands.md lists; any other reads as absent. Nothing absent is a failure: reads of
-/// an unknown kind, id or key leave the output as each operation tells, counts are 0, names and references empty. An
-/// index outside 1 to the count reads nothing.
-/// Where the first `OPTIMIZE` names two or more design variables, one further `DV_` "__v_merged_DV" holds them all, and
-/// `ALGO_` refers to that one. The `VtmType` of a call plays no part.
+/// Only some kinds and keys come from parsed commands, as docs/parsed_commands.md lists; any other reads as absent.
+/// Nothing absent is a failure: reads of an unknown kind, id or key leave the output as each operation tells, counts
+/// are 0, names and references empty. An index outside 1 to the count reads nothing. Where the first `OPTIMIZE` names
+/// two or more design variables, one further `DV_` "__v_merged_DV" holds them all, and `ALGO_` refers to that one. The
+/// `VtmType` of a call plays no part.
 ///
 /// Ownership: the container is not owned and must outlive the storage. Commands added to it later are counted, but not
 /// found by name. A copy shares the container and copies the tables.
@@ -56,8 +56,8 @@ public:
   void GetCommandName(const std::string& command, std::uint64_t position, std::string& id_name) const override;
 
   /// The empty text where there is no reference.
-  void GetReference(const std::string& command, const std::string& id_name, const std::string& key,
-                    std::uint64_t index, std::string& target_id_name) const override;
+  void GetReference(const std::string& command, const std::string& id_name, const std::string& key, std::uint64_t index,
+                    std::string& target_id_name) const override;
 
   /// Does nothing: parsed commands hold no lists of doubles.
   void GetValue(const std::string& command, const std::string& id_name, const std::string& key, std::uint64_t index,
@@ -78,23 +78,23 @@ public:
   /// @}
 
   /// 0 where there is no value.
-  void GetEnumValue(const std::string& command, const std::string& id_name, const std::string& key,
-                    std::uint64_t index, VtmType type, int& value) const override;
+  void GetEnumValue(const std::string& command, const std::string& id_name, const std::string& key, std::uint64_t index,
+                    VtmType type, int& value) const override;
 
   /// \name Writing does nothing and reports nothing
   /// @{
-  void SetValue(const std::string& command, const std::string& id_name, const std::string& key, int index,
-                VtmType type, const std::vector<double>& value) const override;
-  void SetValue(const std::string& command, const std::string& id_name, const std::string& key, int index,
-                VtmType type, const std::vector<int>& value) const override;
-  void SetValue(const std::string& command, const std::string& id_name, const std::string& key, int index,
-                VtmType type, const char& value) const override;
-  void SetValue(const std::string& command, const std::string& id_name, const std::string& key, int index,
-                VtmType type, const std::string& value) const override;
-  void SetValue(const std::string& command, const std::string& id_name, const std::string& key, int index,
-                VtmType type, const double& value) const override;
-  void SetValue(const std::string& command, const std::string& id_name, const std::string& key, int index,
-                VtmType type, const int& value) const override;
+  void SetValue(const std::string& command, const std::string& id_name, const std::string& key, int index, VtmType type,
+                const std::vector<double>& value) const override;
+  void SetValue(const std::string& command, const std::string& id_name, const std::string& key, int index, VtmType type,
+                const std::vector<int>& value) const override;
+  void SetValue(const std::string& command, const std::string& id_name, const std::string& key, int index, VtmType type,
+                const char& value) const override;
+  void SetValue(const std::string& command, const std::string& id_name, const std::string& key, int index, VtmType type,
+                const std::string& value) const override;
+  void SetValue(const std::string& command, const std::string& id_name, const std::string& key, int index, VtmType type,
+                const double& value) const override;
+  void SetValue(const std::string& command, const std::string& id_name, const std::string& key, int index, VtmType type,
+                const int& value) const override;
   void AddValue(const std::string& command, const std::string& id_name, const std::string& key, VtmType type,
                 const std::vector<double>& value) const override;
   void AddValue(const std::string& command, const std::string& id_name, const std::string& key, VtmType type,

@@ -3,8 +3,8 @@
 
 #include "OrvelCommands/storage/OrvelParfileStorageCmdContainer.h"
 
-#include "OrvelCmdEngine/OrvelCmdItem_Util.h"
 #include "OrvelCmdEngine/OrvelCmd_Util.h"
+#include "OrvelCmdEngine/OrvelCmdItem_Util.h"
 
 using namespace orvel::detail;
 using Defs = OrvelCmdDefs;

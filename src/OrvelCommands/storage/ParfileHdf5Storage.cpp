@@ -224,8 +224,8 @@ bool ParfileHdf5Storage::HasGroupOrSet(const H5::Group& group, const std::string
     return *static_cast<const std::string*>(wanted) == member ? 1 : 0;
   };
   hsize_t start = 0;
-  const herr_t result = H5Literate(group.getId(), H5_INDEX_NAME, H5_ITER_INC, &start, is_name,
-                                   const_cast<std::string*>(&name));
+  const herr_t result =
+    H5Literate(group.getId(), H5_INDEX_NAME, H5_ITER_INC, &start, is_name, const_cast<std::string*>(&name));
   if (result < 0)
   {
     throw H5::GroupIException("ParfileHdf5Storage::HasGroupOrSet", hdf5_failures::kNoWalk);
@@ -250,9 +250,8 @@ std::unique_ptr<H5::DataType> ParfileHdf5Storage::MakeDataType(VtmType type) con
 
 bool ParfileHdf5Storage::HasCommand(const std::string& command, const std::string& id_name) const
 {
-  return Guarded<H5::GroupIException>(hdf5_failures::kCommandSize, [&] {
-    return HasGroupOrSet(m_parfile_group.openGroup(command), id_name);
-  });
+  return Guarded<H5::GroupIException>(hdf5_failures::kCommandSize,
+                                      [&] { return HasGroupOrSet(m_parfile_group.openGroup(command), id_name); });
 }
 
 std::uint64_t ParfileHdf5Storage::GetNumCommand(const std::string& command) const
@@ -279,12 +278,10 @@ bool ParfileHdf5Storage::HasElement(const std::string& command, const std::strin
   });
 }
 
-void ParfileHdf5Storage::GetCommandName(const std::string& command, std::uint64_t position,
-                                        std::string& id_name) const
+void ParfileHdf5Storage::GetCommandName(const std::string& command, std::uint64_t position, std::string& id_name) const
 {
-  Guarded<H5::GroupIException>(hdf5_failures::kCommandName, [&] {
-    id_name = m_parfile_group.openGroup(command).getObjnameByIdx(position);
-  });
+  Guarded<H5::GroupIException>(hdf5_failures::kCommandName,
+                               [&] { id_name = m_parfile_group.openGroup(command).getObjnameByIdx(position); });
 }
 
 void ParfileHdf5Storage::GetReference(const std::string& command, const std::string& id_name, const std::string& key,
@@ -312,9 +309,8 @@ void ParfileHdf5Storage::GetReference(const std::string& command, const std::str
   });
 }
 
-H5::DataSet ParfileHdf5Storage::OpenKey(const std::string& command, const std::string& id_name,
-                                        const std::string& key, const FailureText& absent,
-                                        const FailureText& not_reached) const
+H5::DataSet ParfileHdf5Storage::OpenKey(const std::string& command, const std::string& id_name, const std::string& key,
+                                        const FailureText& absent, const FailureText& not_reached) const
 {
   return Guarded<H5::Exception>(not_reached, [&] {
     if (!HasGroupOrSet(m_parfile_group.openGroup(GroupPath(command, id_name)), key))
@@ -329,8 +325,7 @@ template <class Value>
 void ParfileHdf5Storage::ReadValue(const std::string& command, const std::string& id_name, const std::string& key,
                                    std::uint64_t index, VtmType type, Value& value) const
 {
-  const H5::DataSet dataset =
-    OpenKey(command, id_name, key, hdf5_failures::kGetAbsent, hdf5_failures::kGetNotReached);
+  const H5::DataSet dataset = OpenKey(command, id_name, key, hdf5_failures::kGetAbsent, hdf5_failures::kGetNotReached);
   const auto data_type = Guarded<H5::Exception>(hdf5_failures::kGetNotReached, [&] { return MakeDataType(type); });
   if (data_type != nullptr)
   {
@@ -340,11 +335,10 @@ void ParfileHdf5Storage::ReadValue(const std::string& command, const std::string
 }
 
 template <class Value>
-void ParfileHdf5Storage::OverwriteValue(const std::string& command, const std::string& id_name,
-                                        const std::string& key, int index, VtmType type, const Value& value) const
+void ParfileHdf5Storage::OverwriteValue(const std::string& command, const std::string& id_name, const std::string& key,
+                                        int index, VtmType type, const Value& value) const
 {
-  const H5::DataSet dataset =
-    OpenKey(command, id_name, key, hdf5_failures::kSetAbsent, hdf5_failures::kSetNotReached);
+  const H5::DataSet dataset = OpenKey(command, id_name, key, hdf5_failures::kSetAbsent, hdf5_failures::kSetNotReached);
   const auto data_type = Guarded<H5::Exception>(hdf5_failures::kSetNotReached, [&] { return MakeDataType(type); });
   if (data_type != nullptr)
   {
@@ -481,8 +475,8 @@ void ParfileHdf5Storage::AddValue(const std::string& command, const std::string&
   AppendValue(command, id_name, key, type, value);
 }
 
-H5::DataSet ParfileHdf5Storage::OpenForAppend(const H5::Group& group, const std::string& key,
-                                              const H5::DataType& type, std::size_t& position) const
+H5::DataSet ParfileHdf5Storage::OpenForAppend(const H5::Group& group, const std::string& key, const H5::DataType& type,
+                                              std::size_t& position) const
 {
   if (HasGroupOrSet(group, key))
   {
@@ -529,8 +523,7 @@ void ParfileHdf5Storage::AddReference(const std::string& command, const std::str
   hobj_ref_t reference = 0;
   try
   {
-    m_parfile_group.reference(&reference, PARFILE_GROUP + "/" + GroupPath(target_command, target_id_name),
-                              H5R_OBJECT);
+    m_parfile_group.reference(&reference, PARFILE_GROUP + "/" + GroupPath(target_command, target_id_name), H5R_OBJECT);
   }
   catch (const H5::IdComponentException&)
   {

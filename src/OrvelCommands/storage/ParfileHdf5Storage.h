@@ -83,13 +83,13 @@ public:
   /// Throws: "185548060612" for an absent kind and for a position not below the count.
   void GetCommandName(const std::string& command, std::uint64_t position, std::string& id_name) const override;
 
-  /// Throws: "172740050612" for an absent kind, id name or key and for an element that refers to no group or to one that was removed;
-  /// "134746060612" for an index past the end and for a key that holds no references.
+  /// Throws: "172740050612" for an absent kind, id name or key and for an element that refers to no group or to one
+  /// that was removed; "134746060612" for an index past the end and for a key that holds no references.
   ///
   /// Cost: one pass over the commands of the kind that the key is named after; a target of another kind is a search of
   /// the whole file.
-  void GetReference(const std::string& command, const std::string& id_name, const std::string& key,
-                    std::uint64_t index, std::string& target_id_name) const override;
+  void GetReference(const std::string& command, const std::string& id_name, const std::string& key, std::uint64_t index,
+                    std::string& target_id_name) const override;
 
   /// \name Reading one value
   /// A text ends at its first NUL; an element without data gives the empty text. \p type gives the type in memory, and
@@ -108,8 +108,8 @@ public:
                 VtmType type, double& value) const override;
   void GetValue(const std::string& command, const std::string& id_name, const std::string& key, std::uint64_t index,
                 VtmType type, int& value) const override;
-  void GetEnumValue(const std::string& command, const std::string& id_name, const std::string& key,
-                    std::uint64_t index, VtmType type, int& value) const override;
+  void GetEnumValue(const std::string& command, const std::string& id_name, const std::string& key, std::uint64_t index,
+                    VtmType type, int& value) const override;
   /// @}
 
   /// \name Overwriting one value
@@ -119,21 +119,21 @@ public:
   /// Throws: "160046060612" for an absent key, "172757040612" for an absent kind or id name, "172740040612" where the
   /// element cannot be written and for a \p type that \p value cannot be stored as.
   ///
-  /// \warning Index 0 removes all values of the key and then fails in the writing. A negative index fails in the writing
-  /// too and leaves a key that HDF5 cannot open again.
+  /// \warning Index 0 removes all values of the key and then fails in the writing. A negative index fails in the
+  /// writing too and leaves a key that HDF5 cannot open again.
   /// @{
-  void SetValue(const std::string& command, const std::string& id_name, const std::string& key, int index,
-                VtmType type, const std::vector<double>& value) const override;
-  void SetValue(const std::string& command, const std::string& id_name, const std::string& key, int index,
-                VtmType type, const std::vector<int>& value) const override;
-  void SetValue(const std::string& command, const std::string& id_name, const std::string& key, int index,
-                VtmType type, const char& value) const override;
-  void SetValue(const std::string& command, const std::string& id_name, const std::string& key, int index,
-                VtmType type, const std::string& value) const override;
-  void SetValue(const std::string& command, const std::string& id_name, const std::string& key, int index,
-                VtmType type, const double& value) const override;
-  void SetValue(const std::string& command, const std::string& id_name, const std::string& key, int index,
-                VtmType type, const int& value) const override;
+  void SetValue(const std::string& command, const std::string& id_name, const std::string& key, int index, VtmType type,
+                const std::vector<double>& value) const override;
+  void SetValue(const std::string& command, const std::string& id_name, const std::string& key, int index, VtmType type,
+                const std::vector<int>& value) const override;
+  void SetValue(const std::string& command, const std::string& id_name, const std::string& key, int index, VtmType type,
+                const char& value) const override;
+  void SetValue(const std::string& command, const std::string& id_name, const std::string& key, int index, VtmType type,
+                const std::string& value) const override;
+  void SetValue(const std::string& command, const std::string& id_name, const std::string& key, int index, VtmType type,
+                const double& value) const override;
+  void SetValue(const std::string& command, const std::string& id_name, const std::string& key, int index, VtmType type,
+                const int& value) const override;
   /// @}
 
   /// \name Appending one value

@@ -1,6 +1,6 @@
 /// \file
-/// Every failure of the HDF5 storage. Other programs match these texts and codes, so they stay as they are, slips of the
-/// pen and codes that serve several sites included.
+/// Every failure of the HDF5 storage. Other programs match these texts and codes, so they stay as they are, slips of
+/// the pen and codes that serve several sites included.
 #pragma once
 
 #include "OrvelCommands/foundation/throw_failure.h"
@@ -31,23 +31,20 @@ constexpr FailureText kAddCommandKind{
   "185546010612"};
 constexpr FailureText kAddCommandTaken{"The ID_NAME %s is already used. Please check your parameterfile"};
 constexpr FailureText kAddCommandId{
-  "Failed to create command in the optimization database.\nDatabase reported the following error:\n %s ",
-  kCommandCode};
+  "Failed to create command in the optimization database.\nDatabase reported the following error:\n %s ", kCommandCode};
 
-constexpr FailureText kCommandSize{
-  "Failed to retrieve command size info from the optimization database.\n"
-  "Database reported the following error:\n %s ",
-  kCommandCode};
+constexpr FailureText kCommandSize{"Failed to retrieve command size info from the optimization database.\n"
+                                   "Database reported the following error:\n %s ",
+                                   kCommandCode};
 constexpr FailureText kNumElements{
   "Failed to value size info from the optimization database.\nDatabase reported the following error:\n %s ",
   kLookupCode};
 constexpr FailureText kHasElement{
   "Failed to retrieve value size info from the optimization database.\nDatabase reported the following error:\n %s ",
   kLookupCode};
-constexpr FailureText kCommandName{
-  "Failed to retrieve command name info from the optimization database.\n"
-  "Database reported the following error:\n %s ",
-  kLookupCode};
+constexpr FailureText kCommandName{"Failed to retrieve command name info from the optimization database.\n"
+                                   "Database reported the following error:\n %s ",
+                                   kLookupCode};
 constexpr FailureText kDeleteValues{
   "Failed to retrieve command info from the optimization database.\nDatabase reported the following error:\n %s ",
   "202404140612"};
@@ -55,16 +52,15 @@ constexpr FailureText kDeleteValues{
 constexpr FailureText kReferenceTarget{
   "A command of type %s with the ID_NAME %s referenced in the parameterfile is not found\n"
   "  The command is reference from the %s command with ID_NAME %s"};
-constexpr FailureText kReference{  // reading one reports it too
+constexpr FailureText kReference{
+  // reading one reports it too
   "Failed to write reference in the optimization database.\nDatabase reported the following error:\n %s ",
   "172740050612"};
 
 constexpr FailureText kWriteElement{
-  "Failed to write value in the optimization database.\nDatabase reported the following error:\n %s ",
-  "172740040612"};
+  "Failed to write value in the optimization database.\nDatabase reported the following error:\n %s ", "172740040612"};
 constexpr FailureText kReadElement{
-  "Failed to read value from the optimization database.\nDatabase reported the following error:\n %s ",
-  "134746060612"};
+  "Failed to read value from the optimization database.\nDatabase reported the following error:\n %s ", "134746060612"};
 
 constexpr FailureText kGetAbsent{kValueAbsent, "160045060612"};
 constexpr FailureText kSetAbsent{kValueAbsent, "160046060612"};

@@ -13,9 +13,7 @@ using orvel::detail::NumberItem;
 using orvel::detail::TextItem;
 using orvel::detail::TextListItem;
 
-OrvelCmd::OrvelCmd(OrvelCmdDefs::Cmd kind) : m_kind(kind), m_self(this, [](const OrvelCmd*) {})
-{
-}
+OrvelCmd::OrvelCmd(OrvelCmdDefs::Cmd kind) : m_kind(kind), m_self(this, [](const OrvelCmd*) {}) {}
 
 OrvelCmd::~OrvelCmd() = default;
 
@@ -35,7 +33,8 @@ const OrvelCmdItem& OrvelCmd::Item(OrvelCmdItemDefs::CmdItem item, std::uint64_t
   if (position >= items.size())
   {
     throw OrvelCmdItemError(KLV_MESSAGE("Item %s has %zu entries, so that there is none at position %llu.",
-      OrvelCmdItemDefs::GetItemName(item).c_str(), items.size(), static_cast<unsigned long long>(position)));
+                                        OrvelCmdItemDefs::GetItemName(item).c_str(), items.size(),
+                                        static_cast<unsigned long long>(position)));
   }
   return *items[position];
 }

@@ -11,9 +11,9 @@
 #include <vector>
 
 #include "OrvelCmdEngine/OrvelCmdDefs.h"
+#include "OrvelCmdEngine/orvelcmdengine_export.h"
 #include "OrvelCmdEngine/OrvelCmdItem.h"
 #include "OrvelCmdEngine/OrvelCmdItemDefs.h"
-#include "OrvelCmdEngine/orvelcmdengine_export.h"
 
 /// A command: its kind and, for each kind of item, the items in parameter-file order.
 ///

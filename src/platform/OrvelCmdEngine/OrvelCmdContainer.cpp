@@ -15,7 +15,7 @@ std::size_t PlaceOf(OrvelCmdDefs::Cmd kind)
   return static_cast<std::size_t>(is_kind ? kind : OrvelCmdDefs::CMD_NONE);
 }
 
-} // namespace
+}  // namespace
 
 OrvelCmdContainer::OrvelCmdContainer()
 {
@@ -32,8 +32,7 @@ OrvelCmd& OrvelCmdContainer::AddCommand(OrvelCmdDefs::Cmd kind)
   const std::size_t place = PlaceOf(kind);
   if (place == number_of_kinds)
   {
-    throw std::invalid_argument(
-      KLV_MESSAGE("OrvelCmdContainer: %d is no kind of command.", static_cast<int>(kind)));
+    throw std::invalid_argument(KLV_MESSAGE("OrvelCmdContainer: %d is no kind of command.", static_cast<int>(kind)));
   }
   return *m_commands[place].emplace_back(std::make_unique<OrvelCmd>(kind));
 }
@@ -43,10 +42,9 @@ void OrvelCmdContainer::RemoveCommand(OrvelCmdDefs::Cmd kind, std::uint64_t posi
   const std::uint64_t count = GetNumberOfCommands(kind);
   if (position >= count)
   {
-    throw std::out_of_range(
-      KLV_MESSAGE("OrvelCmdContainer: kind %d has %llu entries, so that there is none at position %llu.",
-        static_cast<int>(kind), static_cast<unsigned long long>(count),
-        static_cast<unsigned long long>(position)));
+    throw std::out_of_range(KLV_MESSAGE(
+      "OrvelCmdContainer: kind %d has %llu entries, so that there is none at position %llu.", static_cast<int>(kind),
+      static_cast<unsigned long long>(count), static_cast<unsigned long long>(position)));
   }
   m_commands[PlaceOf(kind)][position].reset();
 }

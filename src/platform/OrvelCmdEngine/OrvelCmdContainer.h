@@ -68,5 +68,5 @@ private:
   const CmdList& Commands(OrvelCmdDefs::Cmd kind) const;
 
   std::array<CmdList, number_of_kinds> m_commands;
-  CmdList m_empty_commands; // one for each kind and a last one for numbers that are no kind
+  CmdList m_empty_commands;  // one for each kind and a last one for numbers that are no kind
 };

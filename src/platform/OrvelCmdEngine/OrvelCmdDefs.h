@@ -32,6 +32,6 @@ struct OrvelCmdDefs
     CONTOURPLOT = 18,
     REPORT = 19,
     CMD_PLACEHOLDER = 20,
-    CMD_NONE = 21 ///< No kind at all; also the number of kinds.
+    CMD_NONE = 21  ///< No kind at all; also the number of kinds.
   };
 };

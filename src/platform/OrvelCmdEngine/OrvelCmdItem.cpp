@@ -12,20 +12,13 @@ const char* DescribeType(OrvelCmdItem::ValueType type)
 {
   switch (type)
   {
-    case OrvelCmdItem::ValueType::Text:
-      return "a text";
-    case OrvelCmdItem::ValueType::Integer:
-      return "an integer";
-    case OrvelCmdItem::ValueType::Double:
-      return "a double";
-    case OrvelCmdItem::ValueType::Enumerator:
-      return "an enumerator";
-    case OrvelCmdItem::ValueType::TextList:
-      return "a list of texts";
-    case OrvelCmdItem::ValueType::IntegerSet:
-      return "a set of integers";
-    case OrvelCmdItem::ValueType::Reference:
-      return "a reference";
+    case OrvelCmdItem::ValueType::Text: return "a text";
+    case OrvelCmdItem::ValueType::Integer: return "an integer";
+    case OrvelCmdItem::ValueType::Double: return "a double";
+    case OrvelCmdItem::ValueType::Enumerator: return "an enumerator";
+    case OrvelCmdItem::ValueType::TextList: return "a list of texts";
+    case OrvelCmdItem::ValueType::IntegerSet: return "a set of integers";
+    case OrvelCmdItem::ValueType::Reference: return "a reference";
   }
   return "a value of no known type";
 }
@@ -35,12 +28,9 @@ std::string ShortenValue(const std::string& value)
   return value.size() <= max_shown_length ? value : value.substr(0, max_shown_length) + "...";
 }
 
-} // namespace
+}  // namespace
 
-OrvelCmdItem::OrvelCmdItem(OrvelCmdItemDefs::CmdItem item, ValueType type) noexcept
-  : m_item(item), m_type(type)
-{
-}
+OrvelCmdItem::OrvelCmdItem(OrvelCmdItemDefs::CmdItem item, ValueType type) noexcept : m_item(item), m_type(type) {}
 
 OrvelCmdItem::~OrvelCmdItem() = default;
 
@@ -102,6 +92,6 @@ OrvelCmdItem::ValueType OrvelCmdItem::GetValueType() const noexcept
 void OrvelCmdItem::ThrowNotReadableAs(ValueType wanted) const
 {
   throw OrvelCmdItemError(KLV_MESSAGE("Item %s holds %s (%s) and cannot be read as %s.",
-    OrvelCmdItemDefs::GetItemName(m_item).c_str(), DescribeType(m_type), ShortenValue(AsString()).c_str(),
-    DescribeType(wanted)));
+                                      OrvelCmdItemDefs::GetItemName(m_item).c_str(), DescribeType(m_type),
+                                      ShortenValue(AsString()).c_str(), DescribeType(wanted)));
 }

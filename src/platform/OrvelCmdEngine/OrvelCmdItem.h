@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
-#include "OrvelCmdEngine/OrvelCmdItemDefs.h"
 #include "OrvelCmdEngine/orvelcmdengine_export.h"
+#include "OrvelCmdEngine/OrvelCmdItemDefs.h"
 
 class OrvelCmd;
 

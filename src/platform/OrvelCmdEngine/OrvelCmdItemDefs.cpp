@@ -7,16 +7,49 @@ namespace
 {
 
 // In the order of the enumeration.
-constexpr std::array item_names = {
-  "ID_NAME", "TYPE", "FILE", "ADD_FILE", "GROUP", "ELEMENT_GROUP", "NODE_GROUP", "FACE_GROUP", "DRESP",
-  "TARGET", "VALUE", "MIN", "MAX", "LIST_BEGIN", "DV", "OBJ_FUNC", "CONSTRAINT", "DV_CONSTRAINT",
-  "STRATEGY", "STOP", "MESH_SMOOTH", "ITER_MAX", "OPT_PARAM", "DV_UPDATE_PARAM", "REFERENCE", "COEFFICIENT",
-  "SOLVER_RUN_MODE", "SENS_CALC_MODE", "UPDATE_TYPE", "UPDATE_ID", "FORMAT", "DESCRIPTION", "DIRECTION",
-  "LOADCASE", "MAGNITUDE", "LOWER", "UPPER", "CS", "PLACEHOLDER"};
+constexpr std::array item_names = {"ID_NAME",
+                                   "TYPE",
+                                   "FILE",
+                                   "ADD_FILE",
+                                   "GROUP",
+                                   "ELEMENT_GROUP",
+                                   "NODE_GROUP",
+                                   "FACE_GROUP",
+                                   "DRESP",
+                                   "TARGET",
+                                   "VALUE",
+                                   "MIN",
+                                   "MAX",
+                                   "LIST_BEGIN",
+                                   "DV",
+                                   "OBJ_FUNC",
+                                   "CONSTRAINT",
+                                   "DV_CONSTRAINT",
+                                   "STRATEGY",
+                                   "STOP",
+                                   "MESH_SMOOTH",
+                                   "ITER_MAX",
+                                   "OPT_PARAM",
+                                   "DV_UPDATE_PARAM",
+                                   "REFERENCE",
+                                   "COEFFICIENT",
+                                   "SOLVER_RUN_MODE",
+                                   "SENS_CALC_MODE",
+                                   "UPDATE_TYPE",
+                                   "UPDATE_ID",
+                                   "FORMAT",
+                                   "DESCRIPTION",
+                                   "DIRECTION",
+                                   "LOADCASE",
+                                   "MAGNITUDE",
+                                   "LOWER",
+                                   "UPPER",
+                                   "CS",
+                                   "PLACEHOLDER"};
 
 static_assert(item_names.size() == OrvelCmdItemDefs::ITEM_NONE, "one name for each kind of item");
 
-} // namespace
+}  // namespace
 
 std::string OrvelCmdItemDefs::GetItemName(CmdItem item)
 {

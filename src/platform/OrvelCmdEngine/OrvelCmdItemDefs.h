@@ -53,7 +53,7 @@ struct OrvelCmdItemDefs
     UPPER = 36,
     CS = 37,
     PLACEHOLDER = 38,
-    ITEM_NONE = 39 ///< No item at all; also the number of item kinds.
+    ITEM_NONE = 39  ///< No item at all; also the number of item kinds.
   };
 
   /// The value of an item that chooses among named things.
@@ -62,12 +62,12 @@ struct OrvelCmdItemDefs
   /// converted from its number; only those that tell apart the groups of `GROUP_DEF` have names here.
   enum EnumValue : std::int32_t
   {
-    GROUP_TYPE_ELEMENT = 0,      ///< `TYPE`: a group of elements.
-    GROUP_TYPE_NODE = 2,         ///< `TYPE`: a group of nodes.
-    GROUP_FORMAT_INTERSECT = 73, ///< `FORMAT`: what all listed groups share.
-    GROUP_FORMAT_MERGE = 77,     ///< `FORMAT`: all listed groups together.
-    GROUP_FORMAT_SUBTRACT = 83,  ///< `FORMAT`: the listed groups taken off.
-    GROUP_FORMAT_XOR = 88        ///< `FORMAT`: what is in one of the listed groups and not in the others.
+    GROUP_TYPE_ELEMENT = 0,       ///< `TYPE`: a group of elements.
+    GROUP_TYPE_NODE = 2,          ///< `TYPE`: a group of nodes.
+    GROUP_FORMAT_INTERSECT = 73,  ///< `FORMAT`: what all listed groups share.
+    GROUP_FORMAT_MERGE = 77,      ///< `FORMAT`: all listed groups together.
+    GROUP_FORMAT_SUBTRACT = 83,   ///< `FORMAT`: the listed groups taken off.
+    GROUP_FORMAT_XOR = 88         ///< `FORMAT`: what is in one of the listed groups and not in the others.
   };
 
   /// Returns: the kind's name as a parameter file writes it, "ID_NAME" and the like; "CmdItem 39" and the

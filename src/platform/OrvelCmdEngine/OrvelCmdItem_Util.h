@@ -4,8 +4,8 @@
 #pragma once
 
 #include "OrvelCmdEngine/OrvelCmdDefs.h"
-#include "OrvelCmdEngine/OrvelCmdItem.h"
 #include "OrvelCmdEngine/orvelcmdengine_export.h"
+#include "OrvelCmdEngine/OrvelCmdItem.h"
 
 /// Questions about items.
 class ORVELCMDENGINE_EXPORT OrvelCmdItem_Util

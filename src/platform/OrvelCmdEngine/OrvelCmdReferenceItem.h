@@ -6,8 +6,8 @@
 #include <memory>
 #include <string>
 
-#include "OrvelCmdEngine/OrvelCmdItem.h"
 #include "OrvelCmdEngine/orvelcmdengine_export.h"
+#include "OrvelCmdEngine/OrvelCmdItem.h"
 
 /// Refers to a command without owning it, and knows when that command has ended.
 class ORVELCMDENGINE_EXPORT OrvelCmdReferenceItem final : public OrvelCmdItem
@@ -16,8 +16,7 @@ public:
   /// Makes an item of the kind `item` that refers to `command`.
   ///
   /// Ownership: the command stays with its owner; when it ends first, ReferencedCommand gives null.
-  explicit OrvelCmdReferenceItem(
-    const OrvelCmd& command, OrvelCmdItemDefs::CmdItem item = OrvelCmdItemDefs::REFERENCE);
+  explicit OrvelCmdReferenceItem(const OrvelCmd& command, OrvelCmdItemDefs::CmdItem item = OrvelCmdItemDefs::REFERENCE);
   ~OrvelCmdReferenceItem() override;
 
   /// Returns: the `ID_NAME` of the command referred to; the empty text when that command has none or has

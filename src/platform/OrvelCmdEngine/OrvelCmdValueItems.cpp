@@ -21,7 +21,7 @@ bool IsWholeInt(double value)
          std::trunc(value) == value;
 }
 
-} // namespace
+}  // namespace
 
 TextItem::TextItem(OrvelCmdItemDefs::CmdItem item, std::string value)
   : OrvelCmdItem(item, ValueType::Text), m_value(std::move(value))
@@ -123,4 +123,4 @@ std::set<int> IntegerSetItem::AsIntegerSet() const
   return m_values;
 }
 
-} // namespace orvel::detail
+}  // namespace orvel::detail

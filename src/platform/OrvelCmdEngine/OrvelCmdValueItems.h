@@ -77,4 +77,4 @@ private:
   std::set<int> m_values;
 };
 
-} // namespace orvel::detail
+}  // namespace orvel::detail

@@ -13,6 +13,6 @@ public:
   OrvelCmd_Util() = delete;
 
   /// Returns: whether one of the command's items of the kind is an enumerator, or an integer, of this value.
-  static bool has_command_enum_with_value(
-    const OrvelCmd& command, OrvelCmdItemDefs::CmdItem item, OrvelCmdItemDefs::EnumValue value);
+  static bool has_command_enum_with_value(const OrvelCmd& command, OrvelCmdItemDefs::CmdItem item,
+                                          OrvelCmdItemDefs::EnumValue value);
 };

@@ -26,13 +26,12 @@ constexpr std::ptrdiff_t spare_frames = 4;
 std::string Demangle(const char* symbol)
 {
   int status = 0;
-  const std::unique_ptr<char, decltype(&std::free)> name(
-    abi::__cxa_demangle(symbol, nullptr, nullptr, &status), &std::free);
+  const std::unique_ptr<char, decltype(&std::free)> name(abi::__cxa_demangle(symbol, nullptr, nullptr, &status),
+                                                         &std::free);
   return status == 0 ? name.get() : symbol;
 }
 
-std::string DescribeFrame(
-  const std::string& function, const void* address, const void* start, const char* module)
+std::string DescribeFrame(const std::string& function, const void* address, const void* start, const char* module)
 {
   const auto offset = reinterpret_cast<std::uintptr_t>(address) - reinterpret_cast<std::uintptr_t>(start);
   return KLV_MESSAGE("%s+0x%zx [%s]", function.c_str(), static_cast<std::size_t>(offset), module);
@@ -55,7 +54,7 @@ std::string DescribeFrame(const void* address)
   return DescribeFrame(Demangle(info.dli_sname), address, info.dli_saddr, info.dli_fname);
 }
 
-} // namespace
+}  // namespace
 
 // Kept out of line, so that its return address is in the caller and shows where the caller's frames begin.
 [[gnu::noinline]] std::vector<std::string> KLV_Backtrace::GetBacktrace()
@@ -71,6 +70,6 @@ std::string DescribeFrame(const void* address)
 
   std::vector<std::string> frames;
   std::transform(begin, begin + std::min(max_frames, end - begin), std::back_inserter(frames),
-    [](const void* address) { return DescribeFrame(address); });
+                 [](const void* address) { return DescribeFrame(address); });
   return frames;
 }

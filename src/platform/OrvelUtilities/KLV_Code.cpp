@@ -2,9 +2,7 @@
 
 #include <utility>
 
-KLV_Code::KLV_Code(std::string text) : m_text(std::move(text))
-{
-}
+KLV_Code::KLV_Code(std::string text) : m_text(std::move(text)) {}
 
 bool KLV_Code::exists() const noexcept
 {

@@ -31,21 +31,19 @@ std::string JoinElements(const std::vector<Element>& list, std::string_view sepa
   return line;
 }
 
-} // namespace
+}  // namespace
 
 std::string KLV_ListFormatUtil::format_list_as_line(const std::vector<int>& list, std::string_view separator)
 {
   return JoinElements(list, separator);
 }
 
-std::string KLV_ListFormatUtil::format_list_as_line(
-  const std::vector<double>& list, std::string_view separator)
+std::string KLV_ListFormatUtil::format_list_as_line(const std::vector<double>& list, std::string_view separator)
 {
   return JoinElements(list, separator);
 }
 
-std::string KLV_ListFormatUtil::format_list_as_line(
-  const std::vector<std::string>& list, std::string_view separator)
+std::string KLV_ListFormatUtil::format_list_as_line(const std::vector<std::string>& list, std::string_view separator)
 {
   return JoinElements(list, separator);
 }

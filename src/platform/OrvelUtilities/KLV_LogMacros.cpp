@@ -38,7 +38,7 @@ private:
 struct LogState
 {
   std::mutex mutex;
-  KLV_LogMacros::Sink sink; // null: the default one
+  KLV_LogMacros::Sink sink;  // null: the default one
   DefaultSink default_sink;
 };
 
@@ -49,7 +49,7 @@ LogState& GetLogState()
   return state;
 }
 
-} // namespace
+}  // namespace
 
 void KLV_LogMacros::debug(std::string_view source, int line, std::string_view prefix, std::string_view text)
 {

@@ -18,7 +18,7 @@ int MeasureMessage(const char* format, std::va_list arguments)
   return length;
 }
 
-} // namespace
+}  // namespace
 
 std::string KLV_MESSAGE(const char* format, ...)
 {

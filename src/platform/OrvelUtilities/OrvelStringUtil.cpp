@@ -17,7 +17,7 @@ std::string ToText(Number value)
   return std::string(buffer.data(), result.ptr);
 }
 
-} // namespace
+}  // namespace
 
 std::string OrvelStringUtil::String(int value)
 {

@@ -1,10 +1,10 @@
 #include "OrvelCommands/commands/gyre_commands.h"
 #include "OrvelCommands/parfile/Gyre_Parfile.h"
-#include "support/CapturedLog.h"
-#include "support/RecordingStorage.h"
 #include "support/accessor_types.h"
+#include "support/CapturedLog.h"
 #include "support/command_checks.h"
 #include "support/failures.h"
+#include "support/RecordingStorage.h"
 #include "support/required_commands.h"
 
 #include <gmock/gmock.h>
@@ -35,53 +35,51 @@ static_assert(kReturn<ALGO_, const PRE_PARAM_&, &ALGO_::GetPRE_PARAM_>);
 static_assert(kReturn<ALGO_, const AS_TOPO_OC_&, &ALGO_::GetAS_TOPO_OC_>);
 static_assert(kReturn<ALGO_, const AS_TOPO_SENS_&, &ALGO_::GetAS_TOPO_SENS_>);
 static_assert(kReturn<ALGO_, const AS_SHAPE_SENS_&, &ALGO_::GetAS_SHAPE_SENS_>);
-static_assert(kReturn<ALGO_, std::uint64_t, &ALGO_::NumCONSTRAINT_, &ALGO_::NumDV_CONSTRAINT_,
-                      &ALGO_::NumMESH_SMOOTH_, &ALGO_::NumMONITOR_>);
+static_assert(kReturn<ALGO_, std::uint64_t, &ALGO_::NumCONSTRAINT_, &ALGO_::NumDV_CONSTRAINT_, &ALGO_::NumMESH_SMOOTH_,
+                      &ALGO_::NumMONITOR_>);
 
 namespace
 {
 
-const char* const kUnlinkedText =
-  "m_ID_NAME_: algorithm\n"
-  "m_STRATEGY_: SHAPE_SENS\n"
-  "m_DV_: \n"
-  "m_OBJ_FUNC_: \n"
-  "m_num_CONSTRAINT_: 0\n"
-  "m_CONSTRAINT_: [\n]\n"
-  "m_num_DV_CONSTRAINT_: 0\n"
-  "m_DV_CONSTRAINT_: [\n]\n"
-  "m_OPT_PARAM_: \n"
-  "m_STOP_: \n"
-  "m_PRE_PARAM_: \n"
-  "m_num_MESH_SMOOTH_: 0\n"
-  "m_MESH_SMOOTH_: [\n]\n"
-  "m_num_MONITOR_: 0\n"
-  "m_MONITOR_: [\n]\n"
-  "m_AS_TOPO_OC_: \n"
-  "m_AS_TOPO_SENS_: \n"
-  "m_AS_SHAPE_SENS_: \n"
-  "m_DEVELOPER_OUTPUT_: YES\n";
+const char* const kUnlinkedText = "m_ID_NAME_: algorithm\n"
+                                  "m_STRATEGY_: SHAPE_SENS\n"
+                                  "m_DV_: \n"
+                                  "m_OBJ_FUNC_: \n"
+                                  "m_num_CONSTRAINT_: 0\n"
+                                  "m_CONSTRAINT_: [\n]\n"
+                                  "m_num_DV_CONSTRAINT_: 0\n"
+                                  "m_DV_CONSTRAINT_: [\n]\n"
+                                  "m_OPT_PARAM_: \n"
+                                  "m_STOP_: \n"
+                                  "m_PRE_PARAM_: \n"
+                                  "m_num_MESH_SMOOTH_: 0\n"
+                                  "m_MESH_SMOOTH_: [\n]\n"
+                                  "m_num_MONITOR_: 0\n"
+                                  "m_MONITOR_: [\n]\n"
+                                  "m_AS_TOPO_OC_: \n"
+                                  "m_AS_TOPO_SENS_: \n"
+                                  "m_AS_SHAPE_SENS_: \n"
+                                  "m_DEVELOPER_OUTPUT_: YES\n";
 
-const char* const kLinkedText =
-  "m_ID_NAME_: algorithm\n"
-  "m_STRATEGY_: SHAPE_SENS\n"
-  "m_DV_: porosity\n"
-  "m_OBJ_FUNC_: objective\n"
-  "m_num_CONSTRAINT_: 3\n"
-  "m_CONSTRAINT_: [\nmass volume pressure ]\n"
-  "m_num_DV_CONSTRAINT_: 2\n"
-  "m_DV_CONSTRAINT_: [\nstamp mirror ]\n"
-  "m_OPT_PARAM_: general\n"
-  "m_STOP_: limits\n"
-  "m_PRE_PARAM_: flow\n"
-  "m_num_MESH_SMOOTH_: 1\n"
-  "m_MESH_SMOOTH_: [\nrelax ]\n"
-  "m_num_MONITOR_: 4\n"
-  "m_MONITOR_: [\nlift swirl drag heat ]\n"
-  "m_AS_TOPO_OC_: criteria\n"
-  "m_AS_TOPO_SENS_: gradients\n"
-  "m_AS_SHAPE_SENS_: morph\n"
-  "m_DEVELOPER_OUTPUT_: YES\n";
+const char* const kLinkedText = "m_ID_NAME_: algorithm\n"
+                                "m_STRATEGY_: SHAPE_SENS\n"
+                                "m_DV_: porosity\n"
+                                "m_OBJ_FUNC_: objective\n"
+                                "m_num_CONSTRAINT_: 3\n"
+                                "m_CONSTRAINT_: [\nmass volume pressure ]\n"
+                                "m_num_DV_CONSTRAINT_: 2\n"
+                                "m_DV_CONSTRAINT_: [\nstamp mirror ]\n"
+                                "m_OPT_PARAM_: general\n"
+                                "m_STOP_: limits\n"
+                                "m_PRE_PARAM_: flow\n"
+                                "m_num_MESH_SMOOTH_: 1\n"
+                                "m_MESH_SMOOTH_: [\nrelax ]\n"
+                                "m_num_MONITOR_: 4\n"
+                                "m_MONITOR_: [\nlift swirl drag heat ]\n"
+                                "m_AS_TOPO_OC_: criteria\n"
+                                "m_AS_TOPO_SENS_: gradients\n"
+                                "m_AS_SHAPE_SENS_: morph\n"
+                                "m_DEVELOPER_OUTPUT_: YES\n";
 
 RecordingStorage StorageWithAlgorithm()
 {
@@ -98,12 +96,22 @@ RecordingStorage StorageWithFullJob()
 {
   RecordingStorage storage = StorageWithAlgorithm();
   AddRequiredCommands(storage);
-  for (const auto& [kind, id] :
-       {std::pair{"DV_", "porosity"}, {"CONSTRAINT_", "pressure"}, {"CONSTRAINT_", "mass"},
-        {"CONSTRAINT_", "volume"}, {"DV_CONSTRAINT_", "mirror"}, {"DV_CONSTRAINT_", "ring"},
-        {"DV_CONSTRAINT_", "stamp"}, {"OPT_PARAM_", "general"}, {"STOP_", "limits"}, {"PRE_PARAM_", "flow"},
-        {"MESH_SMOOTH_", "untangle"}, {"MESH_SMOOTH_", "relax"}, {"DRESP_", "response"},
-        {"AS_TOPO_OC_", "criteria"}, {"AS_TOPO_SENS_", "gradients"}, {"AS_SHAPE_SENS_", "morph"}})
+  for (const auto& [kind, id] : {std::pair{"DV_", "porosity"},
+                                 {"CONSTRAINT_", "pressure"},
+                                 {"CONSTRAINT_", "mass"},
+                                 {"CONSTRAINT_", "volume"},
+                                 {"DV_CONSTRAINT_", "mirror"},
+                                 {"DV_CONSTRAINT_", "ring"},
+                                 {"DV_CONSTRAINT_", "stamp"},
+                                 {"OPT_PARAM_", "general"},
+                                 {"STOP_", "limits"},
+                                 {"PRE_PARAM_", "flow"},
+                                 {"MESH_SMOOTH_", "untangle"},
+                                 {"MESH_SMOOTH_", "relax"},
+                                 {"DRESP_", "response"},
+                                 {"AS_TOPO_OC_", "criteria"},
+                                 {"AS_TOPO_SENS_", "gradients"},
+                                 {"AS_SHAPE_SENS_", "morph"}})
   {
     storage.Command(kind, id);
   }
@@ -203,9 +211,8 @@ void ExpectLinked(const ALGO_& command, LoadedJob& job)
   EXPECT_EQ(&command.GetDV_(), &job->GetDV_("porosity"));
   EXPECT_EQ(&command.GetOBJ_FUNC_(), &job->GetOBJ_FUNC_());
   EXPECT_EQ(command.NumCONSTRAINT_(), 3U);
-  EXPECT_THAT(command.GetCONSTRAINT_(),
-              ElementsAre(&job->GetCONSTRAINT_("mass"), &job->GetCONSTRAINT_("volume"),
-                          &job->GetCONSTRAINT_("pressure")));
+  EXPECT_THAT(command.GetCONSTRAINT_(), ElementsAre(&job->GetCONSTRAINT_("mass"), &job->GetCONSTRAINT_("volume"),
+                                                    &job->GetCONSTRAINT_("pressure")));
   EXPECT_EQ(command.NumDV_CONSTRAINT_(), 2U);
   EXPECT_THAT(command.GetDV_CONSTRAINT_(),
               ElementsAre(&job->GetDV_CONSTRAINT_("stamp"), &job->GetDV_CONSTRAINT_("mirror")));
@@ -291,11 +298,10 @@ TEST(Algo, DependsOnItsValuesOnAStorageThatFailsWithoutThem)
 
 TEST(Algo, NamesItsStrategies)
 {
-  ExpectEnumerators<ALGO_, ALGO_::Enum_STRATEGY_>(
-    {{ALGO_::STRATEGY_STRUCTURE_TOPO_SENS, 65, "STRUCTURE_TOPO_SENS"},
-     {ALGO_::STRATEGY_TOPO_OC, 79, "TOPO_OC"},
-     {ALGO_::STRATEGY_SHAPE_SENS, 83, "SHAPE_SENS"},
-     {ALGO_::STRATEGY_TOPO_SENS, 84, "TOPO_SENS"}});
+  ExpectEnumerators<ALGO_, ALGO_::Enum_STRATEGY_>({{ALGO_::STRATEGY_STRUCTURE_TOPO_SENS, 65, "STRUCTURE_TOPO_SENS"},
+                                                   {ALGO_::STRATEGY_TOPO_OC, 79, "TOPO_OC"},
+                                                   {ALGO_::STRATEGY_SHAPE_SENS, 83, "SHAPE_SENS"},
+                                                   {ALGO_::STRATEGY_TOPO_SENS, 84, "TOPO_SENS"}});
   EXPECT_EQ(ALGO_::GetEnumName(static_cast<ALGO_::Enum_STRATEGY_>(0)), "INVALID");
   EXPECT_EQ(ALGO_::GetEnumName(static_cast<ALGO_::Enum_STRATEGY_>(85)), "INVALID");
 }
@@ -325,26 +331,25 @@ TEST(Algo, PrintsItsDefaults)
   EXPECT_EQ(record.source, "LocalGenerated\\win_b64\\gyre_commands");
   EXPECT_EQ(record.line, 3522);
   EXPECT_EQ(record.prefix, "[%T|%n|%P|OrvelCommands|ALGO_] ");
-  EXPECT_EQ(record.text,
-            "m_ID_NAME_: \n"
-            "m_STRATEGY_: INVALID\n"
-            "m_DV_: \n"
-            "m_OBJ_FUNC_: \n"
-            "m_num_CONSTRAINT_: 0\n"
-            "m_CONSTRAINT_: [\n]\n"
-            "m_num_DV_CONSTRAINT_: 0\n"
-            "m_DV_CONSTRAINT_: [\n]\n"
-            "m_OPT_PARAM_: \n"
-            "m_STOP_: \n"
-            "m_PRE_PARAM_: \n"
-            "m_num_MESH_SMOOTH_: 0\n"
-            "m_MESH_SMOOTH_: [\n]\n"
-            "m_num_MONITOR_: 0\n"
-            "m_MONITOR_: [\n]\n"
-            "m_AS_TOPO_OC_: \n"
-            "m_AS_TOPO_SENS_: \n"
-            "m_AS_SHAPE_SENS_: \n"
-            "m_DEVELOPER_OUTPUT_: INVALID\n");
+  EXPECT_EQ(record.text, "m_ID_NAME_: \n"
+                         "m_STRATEGY_: INVALID\n"
+                         "m_DV_: \n"
+                         "m_OBJ_FUNC_: \n"
+                         "m_num_CONSTRAINT_: 0\n"
+                         "m_CONSTRAINT_: [\n]\n"
+                         "m_num_DV_CONSTRAINT_: 0\n"
+                         "m_DV_CONSTRAINT_: [\n]\n"
+                         "m_OPT_PARAM_: \n"
+                         "m_STOP_: \n"
+                         "m_PRE_PARAM_: \n"
+                         "m_num_MESH_SMOOTH_: 0\n"
+                         "m_MESH_SMOOTH_: [\n]\n"
+                         "m_num_MONITOR_: 0\n"
+                         "m_MONITOR_: [\n]\n"
+                         "m_AS_TOPO_OC_: \n"
+                         "m_AS_TOPO_SENS_: \n"
+                         "m_AS_SHAPE_SENS_: \n"
+                         "m_DEVELOPER_OUTPUT_: INVALID\n");
 }
 
 TEST(Algo, PrintsNothingForItsReferencesBeforeTheyAreResolved)
@@ -392,48 +397,35 @@ TEST(Algo, AsksForItsReferencesInOrderAndForEachListFromTheFirstToTheLastValue)
       links.push_back(call);
     }
   }
-  EXPECT_THAT(links, ElementsAre("GetReference(ALGO_, algorithm, DV_, 1)",
-                                 "GetReference(ALGO_, algorithm, OBJ_FUNC_, 1)",
-                                 "GetNumElements(ALGO_, algorithm, CONSTRAINT_)",
-                                 "GetReference(ALGO_, algorithm, CONSTRAINT_, 1)",
-                                 "GetReference(ALGO_, algorithm, CONSTRAINT_, 2)",
-                                 "GetReference(ALGO_, algorithm, CONSTRAINT_, 3)",
-                                 "GetNumElements(ALGO_, algorithm, DV_CONSTRAINT_)",
-                                 "GetReference(ALGO_, algorithm, DV_CONSTRAINT_, 1)",
-                                 "GetReference(ALGO_, algorithm, DV_CONSTRAINT_, 2)",
-                                 "GetReference(ALGO_, algorithm, OPT_PARAM_, 1)",
-                                 "GetReference(ALGO_, algorithm, STOP_, 1)",
-                                 "GetReference(ALGO_, algorithm, PRE_PARAM_, 1)",
-                                 "GetNumElements(ALGO_, algorithm, MESH_SMOOTH_)",
-                                 "GetReference(ALGO_, algorithm, MESH_SMOOTH_, 1)",
-                                 "GetNumElements(ALGO_, algorithm, MONITOR_)",
-                                 "GetReference(ALGO_, algorithm, MONITOR_, 1)",
-                                 "GetReference(ALGO_, algorithm, MONITOR_, 2)",
-                                 "GetReference(ALGO_, algorithm, MONITOR_, 3)",
-                                 "GetReference(ALGO_, algorithm, MONITOR_, 4)",
-                                 "GetReference(ALGO_, algorithm, AS_TOPO_OC_, 1)",
-                                 "GetReference(ALGO_, algorithm, AS_TOPO_SENS_, 1)",
-                                 "GetReference(ALGO_, algorithm, AS_SHAPE_SENS_, 1)"));
+  EXPECT_THAT(
+    links, ElementsAre(
+             "GetReference(ALGO_, algorithm, DV_, 1)", "GetReference(ALGO_, algorithm, OBJ_FUNC_, 1)",
+             "GetNumElements(ALGO_, algorithm, CONSTRAINT_)", "GetReference(ALGO_, algorithm, CONSTRAINT_, 1)",
+             "GetReference(ALGO_, algorithm, CONSTRAINT_, 2)", "GetReference(ALGO_, algorithm, CONSTRAINT_, 3)",
+             "GetNumElements(ALGO_, algorithm, DV_CONSTRAINT_)", "GetReference(ALGO_, algorithm, DV_CONSTRAINT_, 1)",
+             "GetReference(ALGO_, algorithm, DV_CONSTRAINT_, 2)", "GetReference(ALGO_, algorithm, OPT_PARAM_, 1)",
+             "GetReference(ALGO_, algorithm, STOP_, 1)", "GetReference(ALGO_, algorithm, PRE_PARAM_, 1)",
+             "GetNumElements(ALGO_, algorithm, MESH_SMOOTH_)", "GetReference(ALGO_, algorithm, MESH_SMOOTH_, 1)",
+             "GetNumElements(ALGO_, algorithm, MONITOR_)", "GetReference(ALGO_, algorithm, MONITOR_, 1)",
+             "GetReference(ALGO_, algorithm, MONITOR_, 2)", "GetReference(ALGO_, algorithm, MONITOR_, 3)",
+             "GetReference(ALGO_, algorithm, MONITOR_, 4)", "GetReference(ALGO_, algorithm, AS_TOPO_OC_, 1)",
+             "GetReference(ALGO_, algorithm, AS_TOPO_SENS_, 1)", "GetReference(ALGO_, algorithm, AS_SHAPE_SENS_, 1)"));
 }
 
 TEST(Algo, ReadsNothingFromListsThatAreAbsent)
 {
   const LinkedJob job(StorageWithAlgorithm());
-  EXPECT_THAT(job.CallsAbout("ALGO_", "algorithm"),
-              ElementsAre("GetEnumValue(ALGO_, algorithm, STRATEGY_, 1, vtmEnum)",
-                          "GetEnumValue(ALGO_, algorithm, DEVELOPER_OUTPUT_, 1, vtmEnum)",
-                          "GetReference(ALGO_, algorithm, DV_, 1)",
-                          "GetReference(ALGO_, algorithm, OBJ_FUNC_, 1)",
-                          "GetNumElements(ALGO_, algorithm, CONSTRAINT_)",
-                          "GetNumElements(ALGO_, algorithm, DV_CONSTRAINT_)",
-                          "GetReference(ALGO_, algorithm, OPT_PARAM_, 1)",
-                          "GetReference(ALGO_, algorithm, STOP_, 1)",
-                          "GetReference(ALGO_, algorithm, PRE_PARAM_, 1)",
-                          "GetNumElements(ALGO_, algorithm, MESH_SMOOTH_)",
-                          "GetNumElements(ALGO_, algorithm, MONITOR_)",
-                          "GetReference(ALGO_, algorithm, AS_TOPO_OC_, 1)",
-                          "GetReference(ALGO_, algorithm, AS_TOPO_SENS_, 1)",
-                          "GetReference(ALGO_, algorithm, AS_SHAPE_SENS_, 1)"));
+  EXPECT_THAT(
+    job.CallsAbout("ALGO_", "algorithm"),
+    ElementsAre("GetEnumValue(ALGO_, algorithm, STRATEGY_, 1, vtmEnum)",
+                "GetEnumValue(ALGO_, algorithm, DEVELOPER_OUTPUT_, 1, vtmEnum)",
+                "GetReference(ALGO_, algorithm, DV_, 1)", "GetReference(ALGO_, algorithm, OBJ_FUNC_, 1)",
+                "GetNumElements(ALGO_, algorithm, CONSTRAINT_)", "GetNumElements(ALGO_, algorithm, DV_CONSTRAINT_)",
+                "GetReference(ALGO_, algorithm, OPT_PARAM_, 1)", "GetReference(ALGO_, algorithm, STOP_, 1)",
+                "GetReference(ALGO_, algorithm, PRE_PARAM_, 1)", "GetNumElements(ALGO_, algorithm, MESH_SMOOTH_)",
+                "GetNumElements(ALGO_, algorithm, MONITOR_)", "GetReference(ALGO_, algorithm, AS_TOPO_OC_, 1)",
+                "GetReference(ALGO_, algorithm, AS_TOPO_SENS_, 1)",
+                "GetReference(ALGO_, algorithm, AS_SHAPE_SENS_, 1)"));
 }
 
 TEST(Algo, IsFoundByPlacesCountedFromZeroAndNeverByAskingWhetherItExists)
@@ -515,8 +507,7 @@ TEST(Algo, EndsTheLoadOfAJobWhenAnyOtherReferenceNamesNoCommand)
 
 TEST(Algo, NeedsItsSingleReferencesBecauseNobodyAsksWhetherTheyArePresent)
 {
-  for (const char* key : {"DV_", "OPT_PARAM_", "STOP_", "PRE_PARAM_", "AS_TOPO_OC_", "AS_TOPO_SENS_",
-                          "AS_SHAPE_SENS_"})
+  for (const char* key : {"DV_", "OPT_PARAM_", "STOP_", "PRE_PARAM_", "AS_TOPO_OC_", "AS_TOPO_SENS_", "AS_SHAPE_SENS_"})
   {
     SCOPED_TRACE(key);
     RecordingStorage storage = StorageWithFullJob();

@@ -1,9 +1,9 @@
 #include "OrvelCommands/commands/gyre_commands.h"
 #include "OrvelCommands/parfile/Gyre_Parfile.h"
 #include "support/CapturedLog.h"
-#include "support/RecordingStorage.h"
 #include "support/command_checks.h"
 #include "support/failures.h"
+#include "support/RecordingStorage.h"
 #include "support/required_commands.h"
 
 #include <gmock/gmock.h>
@@ -23,21 +23,20 @@ namespace
 const char* const kIndexPrefix = "[%T|%n|%P|libxml2vtm|CONSTRAINT_] ";
 const char* const kJobPrefix = "[%T|%n|%P|OrvelCommands|Gyre_Parfile] ";
 
-const char* const kFullText =
-    "m_ID_NAME_: limit\n"
-    "m_has_DRESP_: yes\n"
-    "m_DRESP_: volume\n"
-    "m_has_OPERATOR_: yes\n"
-    "m_OPERATOR_: sum\n"
-    "m_TYPE_: LESS_EQUAL\n"
-    "m_MAGNITUDE_: REL_VALUE\n"
-    "m_VALUE_: 0.4\n"
-    "m_COEFFICIENT_: 2\n"
-    "m_A_MINMAX_COEFFICIENT_: -3.5\n"
-    "m_SENSSCALING_TYPE_: NORMED_TO_ONE\n"
-    "m_SENSSCALING_VALUE_: 0.5\n"
-    "m_num_FILTER_: 2\n"
-    "m_FILTER_: [\nfine coarse ]\n";
+const char* const kFullText = "m_ID_NAME_: limit\n"
+                              "m_has_DRESP_: yes\n"
+                              "m_DRESP_: volume\n"
+                              "m_has_OPERATOR_: yes\n"
+                              "m_OPERATOR_: sum\n"
+                              "m_TYPE_: LESS_EQUAL\n"
+                              "m_MAGNITUDE_: REL_VALUE\n"
+                              "m_VALUE_: 0.4\n"
+                              "m_COEFFICIENT_: 2\n"
+                              "m_A_MINMAX_COEFFICIENT_: -3.5\n"
+                              "m_SENSSCALING_TYPE_: NORMED_TO_ONE\n"
+                              "m_SENSSCALING_VALUE_: 0.5\n"
+                              "m_num_FILTER_: 2\n"
+                              "m_FILTER_: [\nfine coarse ]\n";
 
 RecordingStorage StorageWithFullConstraint()
 {
@@ -159,28 +158,26 @@ TEST(Constraint, LoadsItsKeysInOrderAndLeavesTheReferencesAlone)
 {
   const RecordingStorage storage = StorageWithFullConstraint();
   LoadedAlone<CONSTRAINT_>(storage, "limit");
-  EXPECT_THAT(storage.Calls(),
-              ElementsAre("GetEnumValue(CONSTRAINT_, limit, TYPE_, 1, vtmEnum)",
-                          "GetEnumValue(CONSTRAINT_, limit, MAGNITUDE_, 1, vtmEnum)",
-                          "GetValue(CONSTRAINT_, limit, VALUE_, 1, vtmDouble, double)",
-                          "GetValue(CONSTRAINT_, limit, COEFFICIENT_, 1, vtmDouble, double)",
-                          "GetValue(CONSTRAINT_, limit, A_MINMAX_COEFFICIENT_, 1, vtmDouble, double)",
-                          "GetEnumValue(CONSTRAINT_, limit, SENSSCALING_TYPE_, 1, vtmEnum)",
-                          "GetValue(CONSTRAINT_, limit, SENSSCALING_VALUE_, 1, vtmDouble, double)"));
+  EXPECT_THAT(storage.Calls(), ElementsAre("GetEnumValue(CONSTRAINT_, limit, TYPE_, 1, vtmEnum)",
+                                           "GetEnumValue(CONSTRAINT_, limit, MAGNITUDE_, 1, vtmEnum)",
+                                           "GetValue(CONSTRAINT_, limit, VALUE_, 1, vtmDouble, double)",
+                                           "GetValue(CONSTRAINT_, limit, COEFFICIENT_, 1, vtmDouble, double)",
+                                           "GetValue(CONSTRAINT_, limit, A_MINMAX_COEFFICIENT_, 1, vtmDouble, double)",
+                                           "GetEnumValue(CONSTRAINT_, limit, SENSSCALING_TYPE_, 1, vtmEnum)",
+                                           "GetValue(CONSTRAINT_, limit, SENSSCALING_VALUE_, 1, vtmDouble, double)"));
 }
 
 TEST(Constraint, ReadsTheSameKeysWhenThereAreNoReferences)
 {
   const RecordingStorage storage = StorageWithBareConstraint();
   LoadedAlone<CONSTRAINT_>(storage, "bare");
-  EXPECT_THAT(storage.Calls(),
-              ElementsAre("GetEnumValue(CONSTRAINT_, bare, TYPE_, 1, vtmEnum)",
-                          "GetEnumValue(CONSTRAINT_, bare, MAGNITUDE_, 1, vtmEnum)",
-                          "GetValue(CONSTRAINT_, bare, VALUE_, 1, vtmDouble, double)",
-                          "GetValue(CONSTRAINT_, bare, COEFFICIENT_, 1, vtmDouble, double)",
-                          "GetValue(CONSTRAINT_, bare, A_MINMAX_COEFFICIENT_, 1, vtmDouble, double)",
-                          "GetEnumValue(CONSTRAINT_, bare, SENSSCALING_TYPE_, 1, vtmEnum)",
-                          "GetValue(CONSTRAINT_, bare, SENSSCALING_VALUE_, 1, vtmDouble, double)"));
+  EXPECT_THAT(storage.Calls(), ElementsAre("GetEnumValue(CONSTRAINT_, bare, TYPE_, 1, vtmEnum)",
+                                           "GetEnumValue(CONSTRAINT_, bare, MAGNITUDE_, 1, vtmEnum)",
+                                           "GetValue(CONSTRAINT_, bare, VALUE_, 1, vtmDouble, double)",
+                                           "GetValue(CONSTRAINT_, bare, COEFFICIENT_, 1, vtmDouble, double)",
+                                           "GetValue(CONSTRAINT_, bare, A_MINMAX_COEFFICIENT_, 1, vtmDouble, double)",
+                                           "GetEnumValue(CONSTRAINT_, bare, SENSSCALING_TYPE_, 1, vtmEnum)",
+                                           "GetValue(CONSTRAINT_, bare, SENSSCALING_VALUE_, 1, vtmDouble, double)"));
 }
 
 TEST(Constraint, GivesWhatItLoaded)
@@ -203,26 +200,26 @@ TEST(Constraint, GivesWhatItLoaded)
 TEST(Constraint, NamesItsTypes)
 {
   ExpectEnumerators<CONSTRAINT_, CONSTRAINT_::Enum_TYPE_>({
-      {CONSTRAINT_::TYPE_GREATER_EQUAL, 71, "GREATER_EQUAL"},
-      {CONSTRAINT_::TYPE_LESS_EQUAL, 76, "LESS_EQUAL"},
+    {CONSTRAINT_::TYPE_GREATER_EQUAL, 71, "GREATER_EQUAL"},
+    {CONSTRAINT_::TYPE_LESS_EQUAL, 76, "LESS_EQUAL"},
   });
 }
 
 TEST(Constraint, NamesItsMagnitudes)
 {
   ExpectEnumerators<CONSTRAINT_, CONSTRAINT_::Enum_MAGNITUDE_>({
-      {CONSTRAINT_::MAGNITUDE_ABS, 65, "ABS"},
-      {CONSTRAINT_::MAGNITUDE_REL, 82, "REL"},
-      {CONSTRAINT_::MAGNITUDE_REL_VALUE, 86, "REL_VALUE"},
+    {CONSTRAINT_::MAGNITUDE_ABS, 65, "ABS"},
+    {CONSTRAINT_::MAGNITUDE_REL, 82, "REL"},
+    {CONSTRAINT_::MAGNITUDE_REL_VALUE, 86, "REL_VALUE"},
   });
 }
 
 TEST(Constraint, NamesItsSensitivityScalings)
 {
   ExpectEnumerators<CONSTRAINT_, CONSTRAINT_::Enum_SENSSCALING_TYPE_>({
-      {CONSTRAINT_::SENSSCALING_TYPE_NONE, 78, "NONE"},
-      {CONSTRAINT_::SENSSCALING_TYPE_NORMED_TO_ONE, 79, "NORMED_TO_ONE"},
-      {CONSTRAINT_::SENSSCALING_TYPE_SCALED, 83, "SCALED"},
+    {CONSTRAINT_::SENSSCALING_TYPE_NONE, 78, "NONE"},
+    {CONSTRAINT_::SENSSCALING_TYPE_NORMED_TO_ONE, 79, "NORMED_TO_ONE"},
+    {CONSTRAINT_::SENSSCALING_TYPE_SCALED, 83, "SCALED"},
   });
 }
 
@@ -245,44 +242,41 @@ TEST(Constraint, PrintsItsDefaults)
   EXPECT_EQ(record.source, "LocalGenerated\\win_b64\\gyre_commands");
   EXPECT_EQ(record.line, 2165);
   EXPECT_EQ(record.prefix, "[%T|%n|%P|OrvelCommands|CONSTRAINT_] ");
-  EXPECT_EQ(record.text,
-            "m_ID_NAME_: \n"
-            "m_has_DRESP_: no\n"
-            "m_has_OPERATOR_: no\n"
-            "m_TYPE_: INVALID\n"
-            "m_MAGNITUDE_: INVALID\n"
-            "m_VALUE_: 0\n"
-            "m_COEFFICIENT_: 0\n"
-            "m_A_MINMAX_COEFFICIENT_: 0\n"
-            "m_SENSSCALING_TYPE_: INVALID\n"
-            "m_SENSSCALING_VALUE_: 0\n"
-            "m_num_FILTER_: 0\n"
-            "m_FILTER_: [\n]\n");
+  EXPECT_EQ(record.text, "m_ID_NAME_: \n"
+                         "m_has_DRESP_: no\n"
+                         "m_has_OPERATOR_: no\n"
+                         "m_TYPE_: INVALID\n"
+                         "m_MAGNITUDE_: INVALID\n"
+                         "m_VALUE_: 0\n"
+                         "m_COEFFICIENT_: 0\n"
+                         "m_A_MINMAX_COEFFICIENT_: 0\n"
+                         "m_SENSSCALING_TYPE_: INVALID\n"
+                         "m_SENSSCALING_VALUE_: 0\n"
+                         "m_num_FILTER_: 0\n"
+                         "m_FILTER_: [\n]\n");
 }
 
 TEST(Constraint, PrintsNoReferencesBeforeItIsLinkedEvenIfTheFileHasThem)
 {
-  EXPECT_EQ(TextOf(FullConstraint()),
-            "m_ID_NAME_: limit\n"
-            "m_has_DRESP_: no\n"
-            "m_has_OPERATOR_: no\n"
-            "m_TYPE_: LESS_EQUAL\n"
-            "m_MAGNITUDE_: REL_VALUE\n"
-            "m_VALUE_: 0.4\n"
-            "m_COEFFICIENT_: 2\n"
-            "m_A_MINMAX_COEFFICIENT_: -3.5\n"
-            "m_SENSSCALING_TYPE_: NORMED_TO_ONE\n"
-            "m_SENSSCALING_VALUE_: 0.5\n"
-            "m_num_FILTER_: 0\n"
-            "m_FILTER_: [\n]\n");
+  EXPECT_EQ(TextOf(FullConstraint()), "m_ID_NAME_: limit\n"
+                                      "m_has_DRESP_: no\n"
+                                      "m_has_OPERATOR_: no\n"
+                                      "m_TYPE_: LESS_EQUAL\n"
+                                      "m_MAGNITUDE_: REL_VALUE\n"
+                                      "m_VALUE_: 0.4\n"
+                                      "m_COEFFICIENT_: 2\n"
+                                      "m_A_MINMAX_COEFFICIENT_: -3.5\n"
+                                      "m_SENSSCALING_TYPE_: NORMED_TO_ONE\n"
+                                      "m_SENSSCALING_VALUE_: 0.5\n"
+                                      "m_num_FILTER_: 0\n"
+                                      "m_FILTER_: [\n]\n");
 }
 
 TEST(Constraint, PrintsAllItHoldsOnceItIsLinked)
 {
   LinkedJob job(StorageWithFullJob());
   const KLV_LogRecord record = LogRecordOf(job->GetCONSTRAINT_("limit"));
-  EXPECT_EQ(HeadOf(record),
-            "LocalGenerated\\win_b64\\gyre_commands:2165 [%T|%n|%P|OrvelCommands|CONSTRAINT_] ");
+  EXPECT_EQ(HeadOf(record), "LocalGenerated\\win_b64\\gyre_commands:2165 [%T|%n|%P|OrvelCommands|CONSTRAINT_] ");
   EXPECT_EQ(record.text, kFullText);
 }
 
@@ -314,12 +308,9 @@ TEST(Constraint, ReadsItsReferencesAfterAllItsValues)
   ASSERT_EQ(calls.size(), 14U);
   EXPECT_EQ(calls[6], "GetValue(CONSTRAINT_, limit, SENSSCALING_VALUE_, 1, vtmDouble, double)");
   EXPECT_THAT(std::vector<std::string>(calls.begin() + 7, calls.end()),
-              ElementsAre("HasElement(CONSTRAINT_, limit, DRESP_)",
-                          "GetReference(CONSTRAINT_, limit, DRESP_, 1)",
-                          "HasElement(CONSTRAINT_, limit, OPERATOR_)",
-                          "GetReference(CONSTRAINT_, limit, OPERATOR_, 1)",
-                          "GetNumElements(CONSTRAINT_, limit, FILTER_)",
-                          "GetReference(CONSTRAINT_, limit, FILTER_, 1)",
+              ElementsAre("HasElement(CONSTRAINT_, limit, DRESP_)", "GetReference(CONSTRAINT_, limit, DRESP_, 1)",
+                          "HasElement(CONSTRAINT_, limit, OPERATOR_)", "GetReference(CONSTRAINT_, limit, OPERATOR_, 1)",
+                          "GetNumElements(CONSTRAINT_, limit, FILTER_)", "GetReference(CONSTRAINT_, limit, FILTER_, 1)",
                           "GetReference(CONSTRAINT_, limit, FILTER_, 2)"));
 }
 
@@ -349,16 +340,14 @@ TEST(Constraint, CannotBeLinkedToACommandThatIsMissing)
   EXPECT_EQ(FailureOfReference("DRESP_", "nobody"),
             (Failure{"Invalid ID nobody of the parameter file command DRESP_", "161700240908", kJobPrefix}));
   EXPECT_EQ(FailureOfReference("OPERATOR_", "nobody"),
-            (Failure{"Invalid ID nobody of the parameter file command OPERATOR_", "161700240908",
-                     kJobPrefix}));
+            (Failure{"Invalid ID nobody of the parameter file command OPERATOR_", "161700240908", kJobPrefix}));
   EXPECT_EQ(FailureOfReference("FILTER_", "nobody"),
             (Failure{"Invalid ID nobody of the parameter file command FILTER_", "161700240908", kJobPrefix}));
 }
 
 TEST(Constraint, CannotBeLinkedToACommandOfAnotherKind)
 {
-  EXPECT_EQ(FailureOfReference("DRESP_", "sum").message,
-            "Invalid ID sum of the parameter file command DRESP_");
+  EXPECT_EQ(FailureOfReference("DRESP_", "sum").message, "Invalid ID sum of the parameter file command DRESP_");
   EXPECT_EQ(FailureOfReference("OPERATOR_", "volume").message,
             "Invalid ID volume of the parameter file command OPERATOR_");
 }
@@ -377,8 +366,7 @@ TEST(Constraint, IsLeftUnlinkedBehindTheOneWhoseReferenceIsMissing)
   }
   storage.Command("CONSTRAINT_", "wrong")["OPERATOR_"] = {Ref{"nobody"}};
   Gyre_Parfile parfile(storage);
-  EXPECT_EQ(FailureOf([&] { parfile.Load(); }).message,
-            "Invalid ID nobody of the parameter file command OPERATOR_");
+  EXPECT_EQ(FailureOf([&] { parfile.Load(); }).message, "Invalid ID nobody of the parameter file command OPERATOR_");
 
   const CONSTRAINT_& before = parfile.GetCONSTRAINT_("before");
   EXPECT_EQ(&before.GetDRESP_(), &parfile.GetDRESP_("volume"));

@@ -1,10 +1,10 @@
 #include "OrvelCommands/commands/gyre_commands.h"
 #include "OrvelCommands/parfile/Gyre_Parfile.h"
-#include "support/CapturedLog.h"
-#include "support/RecordingStorage.h"
 #include "support/accessor_types.h"
+#include "support/CapturedLog.h"
 #include "support/command_checks.h"
 #include "support/failures.h"
+#include "support/RecordingStorage.h"
 
 #include <gmock/gmock.h>
 
@@ -27,24 +27,23 @@ static_assert(kReturn<CS_, const double&, &CS_::GetX_VEC3_, &CS_::GetY_VEC3_, &C
 namespace
 {
 
-const char* const kFullText =
-  "m_ID_NAME_: axis\n"
-  "m_TYPE_: CYLINDRICAL\n"
-  "m_has_X_ORIGIN_: yes\n"
-  "m_X_ORIGIN_: 1.5\n"
-  "m_has_Y_ORIGIN_: yes\n"
-  "m_Y_ORIGIN_: -2.25\n"
-  "m_has_Z_ORIGIN_: yes\n"
-  "m_Z_ORIGIN_: 3.75\n"
-  "m_X_VEC1_: 0.11\n"
-  "m_Y_VEC1_: 0.12\n"
-  "m_Z_VEC1_: 0.13\n"
-  "m_X_VEC2_: 0.21\n"
-  "m_Y_VEC2_: 0.22\n"
-  "m_Z_VEC2_: 0.23\n"
-  "m_X_VEC3_: 0.31\n"
-  "m_Y_VEC3_: 0.32\n"
-  "m_Z_VEC3_: 0.33\n";
+const char* const kFullText = "m_ID_NAME_: axis\n"
+                              "m_TYPE_: CYLINDRICAL\n"
+                              "m_has_X_ORIGIN_: yes\n"
+                              "m_X_ORIGIN_: 1.5\n"
+                              "m_has_Y_ORIGIN_: yes\n"
+                              "m_Y_ORIGIN_: -2.25\n"
+                              "m_has_Z_ORIGIN_: yes\n"
+                              "m_Z_ORIGIN_: 3.75\n"
+                              "m_X_VEC1_: 0.11\n"
+                              "m_Y_VEC1_: 0.12\n"
+                              "m_Z_VEC1_: 0.13\n"
+                              "m_X_VEC2_: 0.21\n"
+                              "m_Y_VEC2_: 0.22\n"
+                              "m_Z_VEC2_: 0.23\n"
+                              "m_X_VEC3_: 0.31\n"
+                              "m_Y_VEC3_: 0.32\n"
+                              "m_Z_VEC3_: 0.33\n";
 
 RecordingStorage StorageWithSparseCs(const std::string& id)
 {
@@ -139,41 +138,33 @@ TEST(Cs, LoadsItsKeysInOrder)
 {
   const RecordingStorage storage = StorageWithFullCs();
   LoadedAlone<CS_>(storage, "axis");
-  EXPECT_THAT(storage.Calls(), ElementsAre("GetEnumValue(CS_, axis, TYPE_, 1, vtmEnum)",
-                                           "HasElement(CS_, axis, X_ORIGIN_)",
-                                           "GetValue(CS_, axis, X_ORIGIN_, 1, vtmDouble, double)",
-                                           "HasElement(CS_, axis, Y_ORIGIN_)",
-                                           "GetValue(CS_, axis, Y_ORIGIN_, 1, vtmDouble, double)",
-                                           "HasElement(CS_, axis, Z_ORIGIN_)",
-                                           "GetValue(CS_, axis, Z_ORIGIN_, 1, vtmDouble, double)",
-                                           "GetValue(CS_, axis, X_VEC1_, 1, vtmDouble, double)",
-                                           "GetValue(CS_, axis, Y_VEC1_, 1, vtmDouble, double)",
-                                           "GetValue(CS_, axis, Z_VEC1_, 1, vtmDouble, double)",
-                                           "GetValue(CS_, axis, X_VEC2_, 1, vtmDouble, double)",
-                                           "GetValue(CS_, axis, Y_VEC2_, 1, vtmDouble, double)",
-                                           "GetValue(CS_, axis, Z_VEC2_, 1, vtmDouble, double)",
-                                           "GetValue(CS_, axis, X_VEC3_, 1, vtmDouble, double)",
-                                           "GetValue(CS_, axis, Y_VEC3_, 1, vtmDouble, double)",
-                                           "GetValue(CS_, axis, Z_VEC3_, 1, vtmDouble, double)"));
+  EXPECT_THAT(
+    storage.Calls(),
+    ElementsAre(
+      "GetEnumValue(CS_, axis, TYPE_, 1, vtmEnum)", "HasElement(CS_, axis, X_ORIGIN_)",
+      "GetValue(CS_, axis, X_ORIGIN_, 1, vtmDouble, double)", "HasElement(CS_, axis, Y_ORIGIN_)",
+      "GetValue(CS_, axis, Y_ORIGIN_, 1, vtmDouble, double)", "HasElement(CS_, axis, Z_ORIGIN_)",
+      "GetValue(CS_, axis, Z_ORIGIN_, 1, vtmDouble, double)", "GetValue(CS_, axis, X_VEC1_, 1, vtmDouble, double)",
+      "GetValue(CS_, axis, Y_VEC1_, 1, vtmDouble, double)", "GetValue(CS_, axis, Z_VEC1_, 1, vtmDouble, double)",
+      "GetValue(CS_, axis, X_VEC2_, 1, vtmDouble, double)", "GetValue(CS_, axis, Y_VEC2_, 1, vtmDouble, double)",
+      "GetValue(CS_, axis, Z_VEC2_, 1, vtmDouble, double)", "GetValue(CS_, axis, X_VEC3_, 1, vtmDouble, double)",
+      "GetValue(CS_, axis, Y_VEC3_, 1, vtmDouble, double)", "GetValue(CS_, axis, Z_VEC3_, 1, vtmDouble, double)"));
 }
 
 TEST(Cs, DoesNotReadAnOriginThatIsAbsent)
 {
   const RecordingStorage storage = StorageWithSparseCs("bare");
   LoadedAlone<CS_>(storage, "bare");
-  EXPECT_THAT(storage.Calls(), ElementsAre("GetEnumValue(CS_, bare, TYPE_, 1, vtmEnum)",
-                                           "HasElement(CS_, bare, X_ORIGIN_)",
-                                           "HasElement(CS_, bare, Y_ORIGIN_)",
-                                           "HasElement(CS_, bare, Z_ORIGIN_)",
-                                           "GetValue(CS_, bare, X_VEC1_, 1, vtmDouble, double)",
-                                           "GetValue(CS_, bare, Y_VEC1_, 1, vtmDouble, double)",
-                                           "GetValue(CS_, bare, Z_VEC1_, 1, vtmDouble, double)",
-                                           "GetValue(CS_, bare, X_VEC2_, 1, vtmDouble, double)",
-                                           "GetValue(CS_, bare, Y_VEC2_, 1, vtmDouble, double)",
-                                           "GetValue(CS_, bare, Z_VEC2_, 1, vtmDouble, double)",
-                                           "GetValue(CS_, bare, X_VEC3_, 1, vtmDouble, double)",
-                                           "GetValue(CS_, bare, Y_VEC3_, 1, vtmDouble, double)",
-                                           "GetValue(CS_, bare, Z_VEC3_, 1, vtmDouble, double)"));
+  EXPECT_THAT(
+    storage.Calls(),
+    ElementsAre(
+      "GetEnumValue(CS_, bare, TYPE_, 1, vtmEnum)", "HasElement(CS_, bare, X_ORIGIN_)",
+      "HasElement(CS_, bare, Y_ORIGIN_)", "HasElement(CS_, bare, Z_ORIGIN_)",
+      "GetValue(CS_, bare, X_VEC1_, 1, vtmDouble, double)", "GetValue(CS_, bare, Y_VEC1_, 1, vtmDouble, double)",
+      "GetValue(CS_, bare, Z_VEC1_, 1, vtmDouble, double)", "GetValue(CS_, bare, X_VEC2_, 1, vtmDouble, double)",
+      "GetValue(CS_, bare, Y_VEC2_, 1, vtmDouble, double)", "GetValue(CS_, bare, Z_VEC2_, 1, vtmDouble, double)",
+      "GetValue(CS_, bare, X_VEC3_, 1, vtmDouble, double)", "GetValue(CS_, bare, Y_VEC3_, 1, vtmDouble, double)",
+      "GetValue(CS_, bare, Z_VEC3_, 1, vtmDouble, double)"));
 }
 
 TEST(Cs, GivesWhatItLoaded)
@@ -291,21 +282,20 @@ TEST(Cs, PrintsItsDefaults)
   EXPECT_EQ(record.source, "LocalGenerated\\win_b64\\gyre_commands");
   EXPECT_EQ(record.line, 2349);
   EXPECT_EQ(record.prefix, "[%T|%n|%P|OrvelCommands|CS_] ");
-  EXPECT_EQ(record.text,
-            "m_ID_NAME_: \n"
-            "m_TYPE_: INVALID\n"
-            "m_has_X_ORIGIN_: no\n"
-            "m_has_Y_ORIGIN_: no\n"
-            "m_has_Z_ORIGIN_: no\n"
-            "m_X_VEC1_: 0\n"
-            "m_Y_VEC1_: 0\n"
-            "m_Z_VEC1_: 0\n"
-            "m_X_VEC2_: 0\n"
-            "m_Y_VEC2_: 0\n"
-            "m_Z_VEC2_: 0\n"
-            "m_X_VEC3_: 0\n"
-            "m_Y_VEC3_: 0\n"
-            "m_Z_VEC3_: 0\n");
+  EXPECT_EQ(record.text, "m_ID_NAME_: \n"
+                         "m_TYPE_: INVALID\n"
+                         "m_has_X_ORIGIN_: no\n"
+                         "m_has_Y_ORIGIN_: no\n"
+                         "m_has_Z_ORIGIN_: no\n"
+                         "m_X_VEC1_: 0\n"
+                         "m_Y_VEC1_: 0\n"
+                         "m_Z_VEC1_: 0\n"
+                         "m_X_VEC2_: 0\n"
+                         "m_Y_VEC2_: 0\n"
+                         "m_Z_VEC2_: 0\n"
+                         "m_X_VEC3_: 0\n"
+                         "m_Y_VEC3_: 0\n"
+                         "m_Z_VEC3_: 0\n");
 }
 
 TEST(Cs, PrintsTheSameBeforeAndAfterTheReferencesOfAJobAreResolved)

@@ -1,11 +1,11 @@
 #include "OrvelCommands/commands/gyre_commands.h"
 #include "OrvelCommands/parfile/Gyre_Parfile.h"
-#include "support/CapturedLog.h"
-#include "support/OpenDatabase.h"
-#include "support/RecordingStorage.h"
 #include "support/accessor_types.h"
+#include "support/CapturedLog.h"
 #include "support/command_checks.h"
 #include "support/failures.h"
+#include "support/OpenDatabase.h"
+#include "support/RecordingStorage.h"
 
 #include <gmock/gmock.h>
 
@@ -22,13 +22,11 @@ using testing::StartsWith;
 using Dvc = DV_CONSTRAINT_;
 
 static_assert(kReturn<Dvc, const std::string&, &Dvc::GetType, &Dvc::GetID_NAME_, &Dvc::GetPATCH_ID_,
-                      &Dvc::GetNODE_GROUP_, &Dvc::GetCHECK_GROUP_, &Dvc::GetREFERENCE_GROUP_,
-                      &Dvc::GetELEMENT_GROUP_>);
+                      &Dvc::GetNODE_GROUP_, &Dvc::GetCHECK_GROUP_, &Dvc::GetREFERENCE_GROUP_, &Dvc::GetELEMENT_GROUP_>);
 static_assert(kReturn<Dvc, const double&, &Dvc::GetX_POINT_, &Dvc::GetY_POINT_, &Dvc::GetZ_POINT_,
-                      &Dvc::GetX_DIRECTION_, &Dvc::GetY_DIRECTION_, &Dvc::GetZ_DIRECTION_,
-                      &Dvc::GetX_START_DIRECTION_, &Dvc::GetY_START_DIRECTION_, &Dvc::GetZ_START_DIRECTION_,
-                      &Dvc::GetANGLE_, &Dvc::GetRADIUS_, &Dvc::GetAGGREGATION_PARAMETER_,
-                      &Dvc::GetTOLERANCE_>);
+                      &Dvc::GetX_DIRECTION_, &Dvc::GetY_DIRECTION_, &Dvc::GetZ_DIRECTION_, &Dvc::GetX_START_DIRECTION_,
+                      &Dvc::GetY_START_DIRECTION_, &Dvc::GetZ_START_DIRECTION_, &Dvc::GetANGLE_, &Dvc::GetRADIUS_,
+                      &Dvc::GetAGGREGATION_PARAMETER_, &Dvc::GetTOLERANCE_>);
 static_assert(kReturn<Dvc, const int&, &Dvc::GetAGGREGATION_NUM_CONSTRAINTS_>);
 static_assert(kReturn<Dvc, const Dvc::Enum_DVC_TYPE_&, &Dvc::GetDVC_TYPE_>);
 static_assert(kReturn<Dvc, const Dvc::Enum_FEASIBLE_START_&, &Dvc::GetFEASIBLE_START_>);
@@ -44,13 +42,12 @@ static_assert(kReturn<Dvc, const Dvc::Enum_CHECK_ELGR_BLOCKING_&, &Dvc::GetCHECK
 static_assert(kReturn<Dvc, const Dvc::Enum_MID_PLANE_&, &Dvc::GetMID_PLANE_>);
 static_assert(kReturn<Dvc, const CS_&, &Dvc::GetCS_>);
 static_assert(kReturn<Dvc, const SCALING_CURVE_&, &Dvc::GetSCALING_CURVE_>);
-static_assert(kReturn<Dvc, bool, &Dvc::HasNODE_GROUP_, &Dvc::HasCHECK_GROUP_, &Dvc::HasREFERENCE_GROUP_,
-                      &Dvc::HasELEMENT_GROUP_, &Dvc::HasX_POINT_, &Dvc::HasY_POINT_, &Dvc::HasZ_POINT_,
-                      &Dvc::HasX_DIRECTION_, &Dvc::HasY_DIRECTION_, &Dvc::HasZ_DIRECTION_,
-                      &Dvc::HasX_START_DIRECTION_, &Dvc::HasY_START_DIRECTION_, &Dvc::HasZ_START_DIRECTION_,
-                      &Dvc::HasANGLE_, &Dvc::HasRADIUS_, &Dvc::HasFILTER_TYPE_, &Dvc::HasMEMBERSIZE_TYPE_,
-                      &Dvc::HasCS_, &Dvc::HasX_DOF_, &Dvc::HasY_DOF_, &Dvc::HasZ_DOF_,
-                      &Dvc::HasSCALING_CURVE_>);
+static_assert(
+  kReturn<Dvc, bool, &Dvc::HasNODE_GROUP_, &Dvc::HasCHECK_GROUP_, &Dvc::HasREFERENCE_GROUP_, &Dvc::HasELEMENT_GROUP_,
+          &Dvc::HasX_POINT_, &Dvc::HasY_POINT_, &Dvc::HasZ_POINT_, &Dvc::HasX_DIRECTION_, &Dvc::HasY_DIRECTION_,
+          &Dvc::HasZ_DIRECTION_, &Dvc::HasX_START_DIRECTION_, &Dvc::HasY_START_DIRECTION_, &Dvc::HasZ_START_DIRECTION_,
+          &Dvc::HasANGLE_, &Dvc::HasRADIUS_, &Dvc::HasFILTER_TYPE_, &Dvc::HasMEMBERSIZE_TYPE_, &Dvc::HasCS_,
+          &Dvc::HasX_DOF_, &Dvc::HasY_DOF_, &Dvc::HasZ_DOF_, &Dvc::HasSCALING_CURVE_>);
 
 namespace
 {
@@ -64,87 +61,85 @@ namespace
 //   m_has_Y_DOF_: yes               m_SCALING_CURVE_: ramp
 //   m_Y_DOF_: FIX                   m_MID_PLANE_: POINT
 //   m_has_Z_DOF_: yes
-const char* const kFullTextCut =
-  "m_ID_NAME_: mirror\n"
-  "m_PATCH_ID_: outer wall\n"
-  "m_DVC_TYPE_: PLANE_SYMMETRY\n"
-  "m_has_NODE_GROUP_: yes\n"
-  "m_NODE_GROUP_: wall_nodes\n"
-  "m_has_CHECK_GROUP_: yes\n"
-  "m_CHECK_GROUP_: rim_nodes\n"
-  "m_has_REFERENCE_GROUP_: yes\n"
-  "m_REFERENCE_GROUP_: base_nodes\n"
-  "m_has_ELEMENT_GROUP_: yes\n"
-  "m_ELEMENT_GROUP_: duct\n"
-  "m_has_X_POINT_: yes\n"
-  "m_X_POINT_: 1.5\n"
-  "m_has_Y_POINT_: yes\n"
-  "m_Y_POINT_: 2.5\n"
-  "m_has_Z_POINT_: yes\n"
-  "m_Z_POINT_: 3.5\n"
-  "m_has_X_DIRECTION_: yes\n"
-  "m_X_DIRECTION_: 0.1\n"
-  "m_has_Y_DIRECTION_: yes\n"
-  "m_Y_DIRECTION_: 0.2\n"
-  "m_has_Z_DIRECTION_: yes\n"
-  "m_Z_DIRECTION_: 0.3\n"
-  "m_has_X_START_DIRECTION_: yes\n"
-  "m_X_START_DIRECTION_: -0.4\n"
-  "m_has_Y_START_DIRECTION_: yes\n"
-  "m_Y_START_DIRECTION_: -0.5\n"
-  "m_has_Z_START_DIRECTION_: yes\n"
-  "m_Z_START_DIRECTION_: -0.6\n"
-  "m_has_ANGLE_: yes\n"
-  "m_ANGLE_: 45.5\n"
-  "m_FEASIBLE_START_: INFEASIBLE\n"
-  "m_SAVE_: YES\n"
-  "m_DUMPOPTVALUES_: NO\n"
-  "m_has_RADIUS_: yes\n"
-  "m_RADIUS_: 7.25\n"
-  "m_has_FILTER_TYPE_: yes\n"
-  "m_FILTER_TYPE_: SIGMUND\n"
-  "m_has_MEMBERSIZE_TYPE_: yes\n"
-  "m_MEMBERSIZE_TYPE_: MIN\n"
-  "m_AGGREGATION_METHOD_: PMN_C\n"
-  "m_AGGREGATION_PARAMETER_: 8.5\n"
-  "m_AGGREGATION_NUM_CONSTRAINTS_: 12\n"
-  "m_has_CS";
+const char* const kFullTextCut = "m_ID_NAME_: mirror\n"
+                                 "m_PATCH_ID_: outer wall\n"
+                                 "m_DVC_TYPE_: PLANE_SYMMETRY\n"
+                                 "m_has_NODE_GROUP_: yes\n"
+                                 "m_NODE_GROUP_: wall_nodes\n"
+                                 "m_has_CHECK_GROUP_: yes\n"
+                                 "m_CHECK_GROUP_: rim_nodes\n"
+                                 "m_has_REFERENCE_GROUP_: yes\n"
+                                 "m_REFERENCE_GROUP_: base_nodes\n"
+                                 "m_has_ELEMENT_GROUP_: yes\n"
+                                 "m_ELEMENT_GROUP_: duct\n"
+                                 "m_has_X_POINT_: yes\n"
+                                 "m_X_POINT_: 1.5\n"
+                                 "m_has_Y_POINT_: yes\n"
+                                 "m_Y_POINT_: 2.5\n"
+                                 "m_has_Z_POINT_: yes\n"
+                                 "m_Z_POINT_: 3.5\n"
+                                 "m_has_X_DIRECTION_: yes\n"
+                                 "m_X_DIRECTION_: 0.1\n"
+                                 "m_has_Y_DIRECTION_: yes\n"
+                                 "m_Y_DIRECTION_: 0.2\n"
+                                 "m_has_Z_DIRECTION_: yes\n"
+                                 "m_Z_DIRECTION_: 0.3\n"
+                                 "m_has_X_START_DIRECTION_: yes\n"
+                                 "m_X_START_DIRECTION_: -0.4\n"
+                                 "m_has_Y_START_DIRECTION_: yes\n"
+                                 "m_Y_START_DIRECTION_: -0.5\n"
+                                 "m_has_Z_START_DIRECTION_: yes\n"
+                                 "m_Z_START_DIRECTION_: -0.6\n"
+                                 "m_has_ANGLE_: yes\n"
+                                 "m_ANGLE_: 45.5\n"
+                                 "m_FEASIBLE_START_: INFEASIBLE\n"
+                                 "m_SAVE_: YES\n"
+                                 "m_DUMPOPTVALUES_: NO\n"
+                                 "m_has_RADIUS_: yes\n"
+                                 "m_RADIUS_: 7.25\n"
+                                 "m_has_FILTER_TYPE_: yes\n"
+                                 "m_FILTER_TYPE_: SIGMUND\n"
+                                 "m_has_MEMBERSIZE_TYPE_: yes\n"
+                                 "m_MEMBERSIZE_TYPE_: MIN\n"
+                                 "m_AGGREGATION_METHOD_: PMN_C\n"
+                                 "m_AGGREGATION_PARAMETER_: 8.5\n"
+                                 "m_AGGREGATION_NUM_CONSTRAINTS_: 12\n"
+                                 "m_has_CS";
 
-const char* const kSparseText =
-  "m_ID_NAME_: bare\n"
-  "m_PATCH_ID_: outer wall\n"
-  "m_DVC_TYPE_: PLANE_SYMMETRY\n"
-  "m_has_NODE_GROUP_: no\n"
-  "m_has_CHECK_GROUP_: no\n"
-  "m_has_REFERENCE_GROUP_: no\n"
-  "m_has_ELEMENT_GROUP_: no\n"
-  "m_has_X_POINT_: no\n"
-  "m_has_Y_POINT_: no\n"
-  "m_has_Z_POINT_: no\n"
-  "m_has_X_DIRECTION_: no\n"
-  "m_has_Y_DIRECTION_: no\n"
-  "m_has_Z_DIRECTION_: no\n"
-  "m_has_X_START_DIRECTION_: no\n"
-  "m_has_Y_START_DIRECTION_: no\n"
-  "m_has_Z_START_DIRECTION_: no\n"
-  "m_has_ANGLE_: no\n"
-  "m_FEASIBLE_START_: INFEASIBLE\n"
-  "m_SAVE_: YES\n"
-  "m_DUMPOPTVALUES_: NO\n"
-  "m_has_RADIUS_: no\n"
-  "m_has_FILTER_TYPE_: no\n"
-  "m_has_MEMBERSIZE_TYPE_: no\n"
-  "m_AGGREGATION_METHOD_: PMN_C\n"
-  "m_AGGREGATION_PARAMETER_: 8.5\n"
-  "m_AGGREGATION_NUM_CONSTRAINTS_: 12\n"
-  "m_has_CS_: no\n"
-  "m_has_X_DOF_: no\n"
-  "m_has_Y_DOF_: no\n"
-  "m_has_Z_DOF_: no\n"
-  "m_CHECK_ELGR_BLOCKING_: NEG\n"
-  "m_TOLERANCE_: 0.001\n"
-  "m_has_SCALING_CURVE_: no\n"
-  "m_MID_PLANE_: POINT\n";
+const char* const kSparseText = "m_ID_NAME_: bare\n"
+                                "m_PATCH_ID_: outer wall\n"
+                                "m_DVC_TYPE_: PLANE_SYMMETRY\n"
+                                "m_has_NODE_GROUP_: no\n"
+                                "m_has_CHECK_GROUP_: no\n"
+                                "m_has_REFERENCE_GROUP_: no\n"
+                                "m_has_ELEMENT_GROUP_: no\n"
+                                "m_has_X_POINT_: no\n"
+                                "m_has_Y_POINT_: no\n"
+                                "m_has_Z_POINT_: no\n"
+                                "m_has_X_DIRECTION_: no\n"
+                                "m_has_Y_DIRECTION_: no\n"
+                                "m_has_Z_DIRECTION_: no\n"
+                                "m_has_X_START_DIRECTION_: no\n"
+                                "m_has_Y_START_DIRECTION_: no\n"
+                                "m_has_Z_START_DIRECTION_: no\n"
+                                "m_has_ANGLE_: no\n"
+                                "m_FEASIBLE_START_: INFEASIBLE\n"
+                                "m_SAVE_: YES\n"
+                                "m_DUMPOPTVALUES_: NO\n"
+                                "m_has_RADIUS_: no\n"
+                                "m_has_FILTER_TYPE_: no\n"
+                                "m_has_MEMBERSIZE_TYPE_: no\n"
+                                "m_AGGREGATION_METHOD_: PMN_C\n"
+                                "m_AGGREGATION_PARAMETER_: 8.5\n"
+                                "m_AGGREGATION_NUM_CONSTRAINTS_: 12\n"
+                                "m_has_CS_: no\n"
+                                "m_has_X_DOF_: no\n"
+                                "m_has_Y_DOF_: no\n"
+                                "m_has_Z_DOF_: no\n"
+                                "m_CHECK_ELGR_BLOCKING_: NEG\n"
+                                "m_TOLERANCE_: 0.001\n"
+                                "m_has_SCALING_CURVE_: no\n"
+                                "m_MID_PLANE_: POINT\n";
 
 RecordingStorage StorageWithSparseConstraint(const std::string& id)
 {
@@ -390,97 +385,84 @@ TEST(DvConstraint, LoadsItsThirtyOneKeysInOrderAndLeavesTheReferencesAlone)
 {
   const RecordingStorage storage = StorageWithFullConstraint();
   LoadedAlone<DV_CONSTRAINT_>(storage, "mirror");
-  EXPECT_THAT(storage.Calls(),
-              ElementsAre("GetValue(DV_CONSTRAINT_, mirror, PATCH_ID_, 1, vtmString, string)",
-                          "GetEnumValue(DV_CONSTRAINT_, mirror, DVC_TYPE_, 1, vtmEnum)",
-                          "HasElement(DV_CONSTRAINT_, mirror, NODE_GROUP_)",
-                          "GetValue(DV_CONSTRAINT_, mirror, NODE_GROUP_, 1, vtmModelId, string)",
-                          "HasElement(DV_CONSTRAINT_, mirror, CHECK_GROUP_)",
-                          "GetValue(DV_CONSTRAINT_, mirror, CHECK_GROUP_, 1, vtmModelId, string)",
-                          "HasElement(DV_CONSTRAINT_, mirror, REFERENCE_GROUP_)",
-                          "GetValue(DV_CONSTRAINT_, mirror, REFERENCE_GROUP_, 1, vtmModelId, string)",
-                          "HasElement(DV_CONSTRAINT_, mirror, ELEMENT_GROUP_)",
-                          "GetValue(DV_CONSTRAINT_, mirror, ELEMENT_GROUP_, 1, vtmModelId, string)",
-                          "HasElement(DV_CONSTRAINT_, mirror, X_POINT_)",
-                          "GetValue(DV_CONSTRAINT_, mirror, X_POINT_, 1, vtmDouble, double)",
-                          "HasElement(DV_CONSTRAINT_, mirror, Y_POINT_)",
-                          "GetValue(DV_CONSTRAINT_, mirror, Y_POINT_, 1, vtmDouble, double)",
-                          "HasElement(DV_CONSTRAINT_, mirror, Z_POINT_)",
-                          "GetValue(DV_CONSTRAINT_, mirror, Z_POINT_, 1, vtmDouble, double)",
-                          "HasElement(DV_CONSTRAINT_, mirror, X_DIRECTION_)",
-                          "GetValue(DV_CONSTRAINT_, mirror, X_DIRECTION_, 1, vtmDouble, double)",
-                          "HasElement(DV_CONSTRAINT_, mirror, Y_DIRECTION_)",
-                          "GetValue(DV_CONSTRAINT_, mirror, Y_DIRECTION_, 1, vtmDouble, double)",
-                          "HasElement(DV_CONSTRAINT_, mirror, Z_DIRECTION_)",
-                          "GetValue(DV_CONSTRAINT_, mirror, Z_DIRECTION_, 1, vtmDouble, double)",
-                          "HasElement(DV_CONSTRAINT_, mirror, X_START_DIRECTION_)",
-                          "GetValue(DV_CONSTRAINT_, mirror, X_START_DIRECTION_, 1, vtmDouble, double)",
-                          "HasElement(DV_CONSTRAINT_, mirror, Y_START_DIRECTION_)",
-                          "GetValue(DV_CONSTRAINT_, mirror, Y_START_DIRECTION_, 1, vtmDouble, double)",
-                          "HasElement(DV_CONSTRAINT_, mirror, Z_START_DIRECTION_)",
-                          "GetValue(DV_CONSTRAINT_, mirror, Z_START_DIRECTION_, 1, vtmDouble, double)",
-                          "HasElement(DV_CONSTRAINT_, mirror, ANGLE_)",
-                          "GetValue(DV_CONSTRAINT_, mirror, ANGLE_, 1, vtmDouble, double)",
-                          "GetEnumValue(DV_CONSTRAINT_, mirror, FEASIBLE_START_, 1, vtmEnum)",
-                          "GetEnumValue(DV_CONSTRAINT_, mirror, SAVE_, 1, vtmEnum)",
-                          "GetEnumValue(DV_CONSTRAINT_, mirror, DUMPOPTVALUES_, 1, vtmEnum)",
-                          "HasElement(DV_CONSTRAINT_, mirror, RADIUS_)",
-                          "GetValue(DV_CONSTRAINT_, mirror, RADIUS_, 1, vtmDouble, double)",
-                          "HasElement(DV_CONSTRAINT_, mirror, FILTER_TYPE_)",
-                          "GetEnumValue(DV_CONSTRAINT_, mirror, FILTER_TYPE_, 1, vtmEnum)",
-                          "HasElement(DV_CONSTRAINT_, mirror, MEMBERSIZE_TYPE_)",
-                          "GetEnumValue(DV_CONSTRAINT_, mirror, MEMBERSIZE_TYPE_, 1, vtmEnum)",
-                          "GetEnumValue(DV_CONSTRAINT_, mirror, AGGREGATION_METHOD_, 1, vtmEnum)",
-                          "GetValue(DV_CONSTRAINT_, mirror, AGGREGATION_PARAMETER_, 1, vtmDouble, double)",
-                          "GetValue(DV_CONSTRAINT_, mirror, AGGREGATION_NUM_CONSTRAINTS_, 1, vtmInteger, "
-                          "int)",
-                          "HasElement(DV_CONSTRAINT_, mirror, X_DOF_)",
-                          "GetEnumValue(DV_CONSTRAINT_, mirror, X_DOF_, 1, vtmEnum)",
-                          "HasElement(DV_CONSTRAINT_, mirror, Y_DOF_)",
-                          "GetEnumValue(DV_CONSTRAINT_, mirror, Y_DOF_, 1, vtmEnum)",
-                          "HasElement(DV_CONSTRAINT_, mirror, Z_DOF_)",
-                          "GetEnumValue(DV_CONSTRAINT_, mirror, Z_DOF_, 1, vtmEnum)",
-                          "GetEnumValue(DV_CONSTRAINT_, mirror, CHECK_ELGR_BLOCKING_, 1, vtmEnum)",
-                          "GetValue(DV_CONSTRAINT_, mirror, TOLERANCE_, 1, vtmDouble, double)",
-                          "GetEnumValue(DV_CONSTRAINT_, mirror, MID_PLANE_, 1, vtmEnum)"));
+  EXPECT_THAT(
+    storage.Calls(),
+    ElementsAre(
+      "GetValue(DV_CONSTRAINT_, mirror, PATCH_ID_, 1, vtmString, string)",
+      "GetEnumValue(DV_CONSTRAINT_, mirror, DVC_TYPE_, 1, vtmEnum)", "HasElement(DV_CONSTRAINT_, mirror, NODE_GROUP_)",
+      "GetValue(DV_CONSTRAINT_, mirror, NODE_GROUP_, 1, vtmModelId, string)",
+      "HasElement(DV_CONSTRAINT_, mirror, CHECK_GROUP_)",
+      "GetValue(DV_CONSTRAINT_, mirror, CHECK_GROUP_, 1, vtmModelId, string)",
+      "HasElement(DV_CONSTRAINT_, mirror, REFERENCE_GROUP_)",
+      "GetValue(DV_CONSTRAINT_, mirror, REFERENCE_GROUP_, 1, vtmModelId, string)",
+      "HasElement(DV_CONSTRAINT_, mirror, ELEMENT_GROUP_)",
+      "GetValue(DV_CONSTRAINT_, mirror, ELEMENT_GROUP_, 1, vtmModelId, string)",
+      "HasElement(DV_CONSTRAINT_, mirror, X_POINT_)",
+      "GetValue(DV_CONSTRAINT_, mirror, X_POINT_, 1, vtmDouble, double)",
+      "HasElement(DV_CONSTRAINT_, mirror, Y_POINT_)",
+      "GetValue(DV_CONSTRAINT_, mirror, Y_POINT_, 1, vtmDouble, double)",
+      "HasElement(DV_CONSTRAINT_, mirror, Z_POINT_)",
+      "GetValue(DV_CONSTRAINT_, mirror, Z_POINT_, 1, vtmDouble, double)",
+      "HasElement(DV_CONSTRAINT_, mirror, X_DIRECTION_)",
+      "GetValue(DV_CONSTRAINT_, mirror, X_DIRECTION_, 1, vtmDouble, double)",
+      "HasElement(DV_CONSTRAINT_, mirror, Y_DIRECTION_)",
+      "GetValue(DV_CONSTRAINT_, mirror, Y_DIRECTION_, 1, vtmDouble, double)",
+      "HasElement(DV_CONSTRAINT_, mirror, Z_DIRECTION_)",
+      "GetValue(DV_CONSTRAINT_, mirror, Z_DIRECTION_, 1, vtmDouble, double)",
+      "HasElement(DV_CONSTRAINT_, mirror, X_START_DIRECTION_)",
+      "GetValue(DV_CONSTRAINT_, mirror, X_START_DIRECTION_, 1, vtmDouble, double)",
+      "HasElement(DV_CONSTRAINT_, mirror, Y_START_DIRECTION_)",
+      "GetValue(DV_CONSTRAINT_, mirror, Y_START_DIRECTION_, 1, vtmDouble, double)",
+      "HasElement(DV_CONSTRAINT_, mirror, Z_START_DIRECTION_)",
+      "GetValue(DV_CONSTRAINT_, mirror, Z_START_DIRECTION_, 1, vtmDouble, double)",
+      "HasElement(DV_CONSTRAINT_, mirror, ANGLE_)", "GetValue(DV_CONSTRAINT_, mirror, ANGLE_, 1, vtmDouble, double)",
+      "GetEnumValue(DV_CONSTRAINT_, mirror, FEASIBLE_START_, 1, vtmEnum)",
+      "GetEnumValue(DV_CONSTRAINT_, mirror, SAVE_, 1, vtmEnum)",
+      "GetEnumValue(DV_CONSTRAINT_, mirror, DUMPOPTVALUES_, 1, vtmEnum)", "HasElement(DV_CONSTRAINT_, mirror, RADIUS_)",
+      "GetValue(DV_CONSTRAINT_, mirror, RADIUS_, 1, vtmDouble, double)",
+      "HasElement(DV_CONSTRAINT_, mirror, FILTER_TYPE_)",
+      "GetEnumValue(DV_CONSTRAINT_, mirror, FILTER_TYPE_, 1, vtmEnum)",
+      "HasElement(DV_CONSTRAINT_, mirror, MEMBERSIZE_TYPE_)",
+      "GetEnumValue(DV_CONSTRAINT_, mirror, MEMBERSIZE_TYPE_, 1, vtmEnum)",
+      "GetEnumValue(DV_CONSTRAINT_, mirror, AGGREGATION_METHOD_, 1, vtmEnum)",
+      "GetValue(DV_CONSTRAINT_, mirror, AGGREGATION_PARAMETER_, 1, vtmDouble, double)",
+      "GetValue(DV_CONSTRAINT_, mirror, AGGREGATION_NUM_CONSTRAINTS_, 1, vtmInteger, "
+      "int)",
+      "HasElement(DV_CONSTRAINT_, mirror, X_DOF_)", "GetEnumValue(DV_CONSTRAINT_, mirror, X_DOF_, 1, vtmEnum)",
+      "HasElement(DV_CONSTRAINT_, mirror, Y_DOF_)", "GetEnumValue(DV_CONSTRAINT_, mirror, Y_DOF_, 1, vtmEnum)",
+      "HasElement(DV_CONSTRAINT_, mirror, Z_DOF_)", "GetEnumValue(DV_CONSTRAINT_, mirror, Z_DOF_, 1, vtmEnum)",
+      "GetEnumValue(DV_CONSTRAINT_, mirror, CHECK_ELGR_BLOCKING_, 1, vtmEnum)",
+      "GetValue(DV_CONSTRAINT_, mirror, TOLERANCE_, 1, vtmDouble, double)",
+      "GetEnumValue(DV_CONSTRAINT_, mirror, MID_PLANE_, 1, vtmEnum)"));
 }
 
 TEST(DvConstraint, DoesNotReadOptionalKeysThatAreAbsent)
 {
   const RecordingStorage storage = StorageWithSparseConstraint("bare");
   LoadedAlone<DV_CONSTRAINT_>(storage, "bare");
-  EXPECT_THAT(storage.Calls(),
-              ElementsAre("GetValue(DV_CONSTRAINT_, bare, PATCH_ID_, 1, vtmString, string)",
-                          "GetEnumValue(DV_CONSTRAINT_, bare, DVC_TYPE_, 1, vtmEnum)",
-                          "HasElement(DV_CONSTRAINT_, bare, NODE_GROUP_)",
-                          "HasElement(DV_CONSTRAINT_, bare, CHECK_GROUP_)",
-                          "HasElement(DV_CONSTRAINT_, bare, REFERENCE_GROUP_)",
-                          "HasElement(DV_CONSTRAINT_, bare, ELEMENT_GROUP_)",
-                          "HasElement(DV_CONSTRAINT_, bare, X_POINT_)",
-                          "HasElement(DV_CONSTRAINT_, bare, Y_POINT_)",
-                          "HasElement(DV_CONSTRAINT_, bare, Z_POINT_)",
-                          "HasElement(DV_CONSTRAINT_, bare, X_DIRECTION_)",
-                          "HasElement(DV_CONSTRAINT_, bare, Y_DIRECTION_)",
-                          "HasElement(DV_CONSTRAINT_, bare, Z_DIRECTION_)",
-                          "HasElement(DV_CONSTRAINT_, bare, X_START_DIRECTION_)",
-                          "HasElement(DV_CONSTRAINT_, bare, Y_START_DIRECTION_)",
-                          "HasElement(DV_CONSTRAINT_, bare, Z_START_DIRECTION_)",
-                          "HasElement(DV_CONSTRAINT_, bare, ANGLE_)",
-                          "GetEnumValue(DV_CONSTRAINT_, bare, FEASIBLE_START_, 1, vtmEnum)",
-                          "GetEnumValue(DV_CONSTRAINT_, bare, SAVE_, 1, vtmEnum)",
-                          "GetEnumValue(DV_CONSTRAINT_, bare, DUMPOPTVALUES_, 1, vtmEnum)",
-                          "HasElement(DV_CONSTRAINT_, bare, RADIUS_)",
-                          "HasElement(DV_CONSTRAINT_, bare, FILTER_TYPE_)",
-                          "HasElement(DV_CONSTRAINT_, bare, MEMBERSIZE_TYPE_)",
-                          "GetEnumValue(DV_CONSTRAINT_, bare, AGGREGATION_METHOD_, 1, vtmEnum)",
-                          "GetValue(DV_CONSTRAINT_, bare, AGGREGATION_PARAMETER_, 1, vtmDouble, double)",
-                          "GetValue(DV_CONSTRAINT_, bare, AGGREGATION_NUM_CONSTRAINTS_, 1, vtmInteger, int)",
-                          "HasElement(DV_CONSTRAINT_, bare, X_DOF_)",
-                          "HasElement(DV_CONSTRAINT_, bare, Y_DOF_)",
-                          "HasElement(DV_CONSTRAINT_, bare, Z_DOF_)",
-                          "GetEnumValue(DV_CONSTRAINT_, bare, CHECK_ELGR_BLOCKING_, 1, vtmEnum)",
-                          "GetValue(DV_CONSTRAINT_, bare, TOLERANCE_, 1, vtmDouble, double)",
-                          "GetEnumValue(DV_CONSTRAINT_, bare, MID_PLANE_, 1, vtmEnum)"));
+  EXPECT_THAT(
+    storage.Calls(),
+    ElementsAre(
+      "GetValue(DV_CONSTRAINT_, bare, PATCH_ID_, 1, vtmString, string)",
+      "GetEnumValue(DV_CONSTRAINT_, bare, DVC_TYPE_, 1, vtmEnum)", "HasElement(DV_CONSTRAINT_, bare, NODE_GROUP_)",
+      "HasElement(DV_CONSTRAINT_, bare, CHECK_GROUP_)", "HasElement(DV_CONSTRAINT_, bare, REFERENCE_GROUP_)",
+      "HasElement(DV_CONSTRAINT_, bare, ELEMENT_GROUP_)", "HasElement(DV_CONSTRAINT_, bare, X_POINT_)",
+      "HasElement(DV_CONSTRAINT_, bare, Y_POINT_)", "HasElement(DV_CONSTRAINT_, bare, Z_POINT_)",
+      "HasElement(DV_CONSTRAINT_, bare, X_DIRECTION_)", "HasElement(DV_CONSTRAINT_, bare, Y_DIRECTION_)",
+      "HasElement(DV_CONSTRAINT_, bare, Z_DIRECTION_)", "HasElement(DV_CONSTRAINT_, bare, X_START_DIRECTION_)",
+      "HasElement(DV_CONSTRAINT_, bare, Y_START_DIRECTION_)", "HasElement(DV_CONSTRAINT_, bare, Z_START_DIRECTION_)",
+      "HasElement(DV_CONSTRAINT_, bare, ANGLE_)", "GetEnumValue(DV_CONSTRAINT_, bare, FEASIBLE_START_, 1, vtmEnum)",
+      "GetEnumValue(DV_CONSTRAINT_, bare, SAVE_, 1, vtmEnum)",
+      "GetEnumValue(DV_CONSTRAINT_, bare, DUMPOPTVALUES_, 1, vtmEnum)", "HasElement(DV_CONSTRAINT_, bare, RADIUS_)",
+      "HasElement(DV_CONSTRAINT_, bare, FILTER_TYPE_)", "HasElement(DV_CONSTRAINT_, bare, MEMBERSIZE_TYPE_)",
+      "GetEnumValue(DV_CONSTRAINT_, bare, AGGREGATION_METHOD_, 1, vtmEnum)",
+      "GetValue(DV_CONSTRAINT_, bare, AGGREGATION_PARAMETER_, 1, vtmDouble, double)",
+      "GetValue(DV_CONSTRAINT_, bare, AGGREGATION_NUM_CONSTRAINTS_, 1, vtmInteger, int)",
+      "HasElement(DV_CONSTRAINT_, bare, X_DOF_)", "HasElement(DV_CONSTRAINT_, bare, Y_DOF_)",
+      "HasElement(DV_CONSTRAINT_, bare, Z_DOF_)",
+      "GetEnumValue(DV_CONSTRAINT_, bare, CHECK_ELGR_BLOCKING_, 1, vtmEnum)",
+      "GetValue(DV_CONSTRAINT_, bare, TOLERANCE_, 1, vtmDouble, double)",
+      "GetEnumValue(DV_CONSTRAINT_, bare, MID_PLANE_, 1, vtmEnum)"));
 }
 
 TEST(DvConstraint, GivesWhatItLoadedAndHasNoReferencesYet)
@@ -664,8 +646,7 @@ TEST(DvConstraint, TakesTheLettersYAndNForYesAndNoAndPreParamTAndF)
 TEST(DvConstraint, NamesItsFilterTypes)
 {
   ExpectEnumerators<DV_CONSTRAINT_, DV_CONSTRAINT_::Enum_FILTER_TYPE_>(
-    {{DV_CONSTRAINT_::FILTER_TYPE_PROB_DENS, 80, "PROB_DENS"},
-     {DV_CONSTRAINT_::FILTER_TYPE_SIGMUND, 83, "SIGMUND"}});
+    {{DV_CONSTRAINT_::FILTER_TYPE_PROB_DENS, 80, "PROB_DENS"}, {DV_CONSTRAINT_::FILTER_TYPE_SIGMUND, 83, "SIGMUND"}});
 }
 
 TEST(DvConstraint, NamesItsMemberSizeTypes)
@@ -725,49 +706,47 @@ TEST(DvConstraint, PrintsItsDefaults)
   EXPECT_EQ(record.source, "LocalGenerated\\win_b64\\gyre_commands");
   EXPECT_EQ(record.line, 3252);
   EXPECT_EQ(record.prefix, "[%T|%n|%P|OrvelCommands|DV_CONSTRAINT_] ");
-  EXPECT_EQ(record.text,
-            "m_ID_NAME_: \n"
-            "m_PATCH_ID_: \n"
-            "m_DVC_TYPE_: INVALID\n"
-            "m_has_NODE_GROUP_: no\n"
-            "m_has_CHECK_GROUP_: no\n"
-            "m_has_REFERENCE_GROUP_: no\n"
-            "m_has_ELEMENT_GROUP_: no\n"
-            "m_has_X_POINT_: no\n"
-            "m_has_Y_POINT_: no\n"
-            "m_has_Z_POINT_: no\n"
-            "m_has_X_DIRECTION_: no\n"
-            "m_has_Y_DIRECTION_: no\n"
-            "m_has_Z_DIRECTION_: no\n"
-            "m_has_X_START_DIRECTION_: no\n"
-            "m_has_Y_START_DIRECTION_: no\n"
-            "m_has_Z_START_DIRECTION_: no\n"
-            "m_has_ANGLE_: no\n"
-            "m_FEASIBLE_START_: INVALID\n"
-            "m_SAVE_: INVALID\n"
-            "m_DUMPOPTVALUES_: INVALID\n"
-            "m_has_RADIUS_: no\n"
-            "m_has_FILTER_TYPE_: no\n"
-            "m_has_MEMBERSIZE_TYPE_: no\n"
-            "m_AGGREGATION_METHOD_: INVALID\n"
-            "m_AGGREGATION_PARAMETER_: 0\n"
-            "m_AGGREGATION_NUM_CONSTRAINTS_: 0\n"
-            "m_has_CS_: no\n"
-            "m_has_X_DOF_: no\n"
-            "m_has_Y_DOF_: no\n"
-            "m_has_Z_DOF_: no\n"
-            "m_CHECK_ELGR_BLOCKING_: INVALID\n"
-            "m_TOLERANCE_: 0\n"
-            "m_has_SCALING_CURVE_: no\n"
-            "m_MID_PLANE_: INVALID\n");
+  EXPECT_EQ(record.text, "m_ID_NAME_: \n"
+                         "m_PATCH_ID_: \n"
+                         "m_DVC_TYPE_: INVALID\n"
+                         "m_has_NODE_GROUP_: no\n"
+                         "m_has_CHECK_GROUP_: no\n"
+                         "m_has_REFERENCE_GROUP_: no\n"
+                         "m_has_ELEMENT_GROUP_: no\n"
+                         "m_has_X_POINT_: no\n"
+                         "m_has_Y_POINT_: no\n"
+                         "m_has_Z_POINT_: no\n"
+                         "m_has_X_DIRECTION_: no\n"
+                         "m_has_Y_DIRECTION_: no\n"
+                         "m_has_Z_DIRECTION_: no\n"
+                         "m_has_X_START_DIRECTION_: no\n"
+                         "m_has_Y_START_DIRECTION_: no\n"
+                         "m_has_Z_START_DIRECTION_: no\n"
+                         "m_has_ANGLE_: no\n"
+                         "m_FEASIBLE_START_: INVALID\n"
+                         "m_SAVE_: INVALID\n"
+                         "m_DUMPOPTVALUES_: INVALID\n"
+                         "m_has_RADIUS_: no\n"
+                         "m_has_FILTER_TYPE_: no\n"
+                         "m_has_MEMBERSIZE_TYPE_: no\n"
+                         "m_AGGREGATION_METHOD_: INVALID\n"
+                         "m_AGGREGATION_PARAMETER_: 0\n"
+                         "m_AGGREGATION_NUM_CONSTRAINTS_: 0\n"
+                         "m_has_CS_: no\n"
+                         "m_has_X_DOF_: no\n"
+                         "m_has_Y_DOF_: no\n"
+                         "m_has_Z_DOF_: no\n"
+                         "m_CHECK_ELGR_BLOCKING_: INVALID\n"
+                         "m_TOLERANCE_: 0\n"
+                         "m_has_SCALING_CURVE_: no\n"
+                         "m_MID_PLANE_: INVALID\n");
 }
 
 TEST(DvConstraint, PrintsJustTheFirst1023CharactersOfAFullCommand)
 {
   LinkedJob job(StorageWithFullConstraintAndTargets());
   const KLV_LogRecord record = LogRecordOf(job->GetDV_CONSTRAINT_("mirror"));
-  EXPECT_EQ(HeadOf(record),
-            "LocalGenerated\\win_b64\\gyre_commands:3252 [%T|%n|%P|OrvelCommands|DV_CONSTRAINT_] ");
+  EXPECT_EQ(HeadOf(record), "LocalGenerated\\win_b64\\gyre_commands:3252 [%T|%n|%P|OrvelCommands|DV_CONSTRAINT_] ");
   EXPECT_EQ(record.text.size(), 1023U);
   EXPECT_EQ(record.text, kFullTextCut);
 }
@@ -784,26 +763,25 @@ TEST(DvConstraint, PrintsItsLastLinesWhereTheEarlierOnesAreFew)
   AddLinks(storage, "mirror");
   AddTargets(storage);
   LinkedJob job(storage);
-  EXPECT_THAT(LogRecordOf(job->GetDV_CONSTRAINT_("mirror")).text,
-              EndsWith("m_has_RADIUS_: no\n"
-                       "m_has_FILTER_TYPE_: no\n"
-                       "m_has_MEMBERSIZE_TYPE_: no\n"
-                       "m_AGGREGATION_METHOD_: PMN_C\n"
-                       "m_AGGREGATION_PARAMETER_: 8.5\n"
-                       "m_AGGREGATION_NUM_CONSTRAINTS_: 12\n"
-                       "m_has_CS_: yes\n"
-                       "m_CS_: axis\n"
-                       "m_has_X_DOF_: yes\n"
-                       "m_X_DOF_: FREE\n"
-                       "m_has_Y_DOF_: yes\n"
-                       "m_Y_DOF_: FIX\n"
-                       "m_has_Z_DOF_: yes\n"
-                       "m_Z_DOF_: FIX\n"
-                       "m_CHECK_ELGR_BLOCKING_: BOTH\n"
-                       "m_TOLERANCE_: 0.25\n"
-                       "m_has_SCALING_CURVE_: yes\n"
-                       "m_SCALING_CURVE_: ramp\n"
-                       "m_MID_PLANE_: NONE\n"));
+  EXPECT_THAT(LogRecordOf(job->GetDV_CONSTRAINT_("mirror")).text, EndsWith("m_has_RADIUS_: no\n"
+                                                                           "m_has_FILTER_TYPE_: no\n"
+                                                                           "m_has_MEMBERSIZE_TYPE_: no\n"
+                                                                           "m_AGGREGATION_METHOD_: PMN_C\n"
+                                                                           "m_AGGREGATION_PARAMETER_: 8.5\n"
+                                                                           "m_AGGREGATION_NUM_CONSTRAINTS_: 12\n"
+                                                                           "m_has_CS_: yes\n"
+                                                                           "m_CS_: axis\n"
+                                                                           "m_has_X_DOF_: yes\n"
+                                                                           "m_X_DOF_: FREE\n"
+                                                                           "m_has_Y_DOF_: yes\n"
+                                                                           "m_Y_DOF_: FIX\n"
+                                                                           "m_has_Z_DOF_: yes\n"
+                                                                           "m_Z_DOF_: FIX\n"
+                                                                           "m_CHECK_ELGR_BLOCKING_: BOTH\n"
+                                                                           "m_TOLERANCE_: 0.25\n"
+                                                                           "m_has_SCALING_CURVE_: yes\n"
+                                                                           "m_SCALING_CURVE_: ramp\n"
+                                                                           "m_MID_PLANE_: NONE\n"));
 }
 
 TEST(DvConstraint, PrintsNoReferencesBeforeTheyAreResolved)
@@ -852,10 +830,10 @@ TEST(DvConstraint, AsksForItsReferencesInOrderWhenAJobIsLinked)
   std::vector<std::string> calls = job.CallsAbout("DV_CONSTRAINT_", "mirror");
   ASSERT_EQ(calls.size(), 55U);
   calls.erase(calls.begin(), calls.begin() + 51);
-  EXPECT_THAT(calls, ElementsAre("HasElement(DV_CONSTRAINT_, mirror, CS_)",
-                                 "GetReference(DV_CONSTRAINT_, mirror, CS_, 1)",
-                                 "HasElement(DV_CONSTRAINT_, mirror, SCALING_CURVE_)",
-                                 "GetReference(DV_CONSTRAINT_, mirror, SCALING_CURVE_, 1)"));
+  EXPECT_THAT(calls,
+              ElementsAre("HasElement(DV_CONSTRAINT_, mirror, CS_)", "GetReference(DV_CONSTRAINT_, mirror, CS_, 1)",
+                          "HasElement(DV_CONSTRAINT_, mirror, SCALING_CURVE_)",
+                          "GetReference(DV_CONSTRAINT_, mirror, SCALING_CURVE_, 1)"));
 }
 
 TEST(DvConstraint, DoesNotReadReferencesThatAreAbsent)
@@ -864,8 +842,8 @@ TEST(DvConstraint, DoesNotReadReferencesThatAreAbsent)
   std::vector<std::string> calls = job.CallsAbout("DV_CONSTRAINT_", "bare");
   ASSERT_EQ(calls.size(), 33U);
   calls.erase(calls.begin(), calls.begin() + 31);
-  EXPECT_THAT(calls, ElementsAre("HasElement(DV_CONSTRAINT_, bare, CS_)",
-                                 "HasElement(DV_CONSTRAINT_, bare, SCALING_CURVE_)"));
+  EXPECT_THAT(calls,
+              ElementsAre("HasElement(DV_CONSTRAINT_, bare, CS_)", "HasElement(DV_CONSTRAINT_, bare, SCALING_CURVE_)"));
 }
 
 TEST(DvConstraint, EndsTheLoadOfAJobWhenAReferenceNamesNoCommand)
@@ -912,11 +890,10 @@ TEST(DvConstraint, FindsAllUnknownGroupsInTheOrderOfItsKeys)
   EXPECT_THAT(ProblemsIn(command, storage, "mirror"),
               ElementsAre(Unknown("wall_nodes", "NODE_GROUP"), Unknown("rim_nodes", "CHECK_GROUP"),
                           Unknown("base_nodes", "REFERENCE_GROUP"), Unknown("duct", "ELEMENT_GROUP")));
-  EXPECT_THAT(storage.Calls(),
-              ElementsAre("GetValue(DV_CONSTRAINT_, mirror, NODE_GROUP_, 1, vtmModelId, string)",
-                          "GetValue(DV_CONSTRAINT_, mirror, CHECK_GROUP_, 1, vtmModelId, string)",
-                          "GetValue(DV_CONSTRAINT_, mirror, REFERENCE_GROUP_, 1, vtmModelId, string)",
-                          "GetValue(DV_CONSTRAINT_, mirror, ELEMENT_GROUP_, 1, vtmModelId, string)"));
+  EXPECT_THAT(storage.Calls(), ElementsAre("GetValue(DV_CONSTRAINT_, mirror, NODE_GROUP_, 1, vtmModelId, string)",
+                                           "GetValue(DV_CONSTRAINT_, mirror, CHECK_GROUP_, 1, vtmModelId, string)",
+                                           "GetValue(DV_CONSTRAINT_, mirror, REFERENCE_GROUP_, 1, vtmModelId, string)",
+                                           "GetValue(DV_CONSTRAINT_, mirror, ELEMENT_GROUP_, 1, vtmModelId, string)"));
   EXPECT_EQ(database.Map(KLV_IdType::node_group).LookupCount("rim_nodes"), 0U);
 }
 

@@ -1,9 +1,9 @@
 #include "OrvelCommands/commands/gyre_commands.h"
 #include "OrvelCommands/parfile/Gyre_Parfile.h"
 #include "support/CapturedLog.h"
+#include "support/failures.h"
 #include "support/OpenDatabase.h"
 #include "support/RecordingStorage.h"
-#include "support/failures.h"
 #include "support/required_commands.h"
 
 #include <gmock/gmock.h>
@@ -133,17 +133,16 @@ TEST(Dv, PrintsItsDefaults)
   EXPECT_EQ(record.source, "LocalGenerated\\win_b64\\gyre_commands");
   EXPECT_EQ(record.line, 1089);
   EXPECT_EQ(record.prefix, "[%T|%n|%P|OrvelCommands|DV_] ");
-  EXPECT_EQ(record.text,
-            "m_ID_NAME_: \n"
-            "m_has_ELEMENT_GROUP_: no\n"
-            "m_has_NODE_GROUP_: no\n"
-            "m_INITIAL_: 0\n"
-            "m_has_INITIAL_DV_FIELD_: no\n"
-            "m_num_FILTER_: 0\n"
-            "m_FILTER_: [\n]\n"
-            "m_TYPE_: INVALID\n"
-            "m_num_DV_: 0\n"
-            "m_DV_: [\n]\n");
+  EXPECT_EQ(record.text, "m_ID_NAME_: \n"
+                         "m_has_ELEMENT_GROUP_: no\n"
+                         "m_has_NODE_GROUP_: no\n"
+                         "m_INITIAL_: 0\n"
+                         "m_has_INITIAL_DV_FIELD_: no\n"
+                         "m_num_FILTER_: 0\n"
+                         "m_FILTER_: [\n]\n"
+                         "m_TYPE_: INVALID\n"
+                         "m_num_DV_: 0\n"
+                         "m_DV_: [\n]\n");
 }
 
 TEST(Dv, PrintsAllItHoldsOnceItIsLinked)
@@ -156,20 +155,19 @@ TEST(Dv, PrintsAllItHoldsOnceItIsLinked)
   storage.Command("DV_", "right");
   Gyre_Parfile parfile(storage);
   parfile.Load();
-  EXPECT_EQ(LogRecordOf(parfile.GetDV_("porosity")).text,
-            "m_ID_NAME_: porosity\n"
-            "m_has_ELEMENT_GROUP_: yes\n"
-            "m_ELEMENT_GROUP_: duct\n"
-            "m_has_NODE_GROUP_: yes\n"
-            "m_NODE_GROUP_: wall_nodes\n"
-            "m_INITIAL_: 0.4\n"
-            "m_has_INITIAL_DV_FIELD_: yes\n"
-            "m_INITIAL_DV_FIELD_: start.csv\n"
-            "m_num_FILTER_: 2\n"
-            "m_FILTER_: [\nfine coarse ]\n"
-            "m_TYPE_: DENSITY\n"
-            "m_num_DV_: 2\n"
-            "m_DV_: [\nleft right ]\n");
+  EXPECT_EQ(LogRecordOf(parfile.GetDV_("porosity")).text, "m_ID_NAME_: porosity\n"
+                                                          "m_has_ELEMENT_GROUP_: yes\n"
+                                                          "m_ELEMENT_GROUP_: duct\n"
+                                                          "m_has_NODE_GROUP_: yes\n"
+                                                          "m_NODE_GROUP_: wall_nodes\n"
+                                                          "m_INITIAL_: 0.4\n"
+                                                          "m_has_INITIAL_DV_FIELD_: yes\n"
+                                                          "m_INITIAL_DV_FIELD_: start.csv\n"
+                                                          "m_num_FILTER_: 2\n"
+                                                          "m_FILTER_: [\nfine coarse ]\n"
+                                                          "m_TYPE_: DENSITY\n"
+                                                          "m_num_DV_: 2\n"
+                                                          "m_DV_: [\nleft right ]\n");
 }
 
 TEST(Dv, ChecksItsGroupsAmongTheModelsGroupsOfTheirKind)

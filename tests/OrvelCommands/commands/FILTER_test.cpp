@@ -1,11 +1,11 @@
 #include "OrvelCommands/commands/gyre_commands.h"
 #include "OrvelCommands/parfile/Gyre_Parfile.h"
-#include "support/CapturedLog.h"
-#include "support/OpenDatabase.h"
-#include "support/RecordingStorage.h"
 #include "support/accessor_types.h"
+#include "support/CapturedLog.h"
 #include "support/command_checks.h"
 #include "support/failures.h"
+#include "support/OpenDatabase.h"
+#include "support/RecordingStorage.h"
 
 #include <gmock/gmock.h>
 
@@ -17,46 +17,43 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
-static_assert(kReturn<FILTER_, const std::string&, &FILTER_::GetType, &FILTER_::GetID_NAME_,
-                      &FILTER_::GetPATCH_ID_, &FILTER_::GetFACE_GROUP_, &FILTER_::GetNODE_GROUP_,
-                      &FILTER_::GetELEMENT_GROUP_>);
+static_assert(kReturn<FILTER_, const std::string&, &FILTER_::GetType, &FILTER_::GetID_NAME_, &FILTER_::GetPATCH_ID_,
+                      &FILTER_::GetFACE_GROUP_, &FILTER_::GetNODE_GROUP_, &FILTER_::GetELEMENT_GROUP_>);
 static_assert(kReturn<FILTER_, const FILTER_::Enum_METHOD_&, &FILTER_::GetMETHOD_>);
 static_assert(kReturn<FILTER_, const double&, &FILTER_::GetRADIUS_, &FILTER_::GetX_DIRECTION_,
                       &FILTER_::GetY_DIRECTION_, &FILTER_::GetZ_DIRECTION_, &FILTER_::GetX_POINT_,
                       &FILTER_::GetY_POINT_, &FILTER_::GetZ_POINT_, &FILTER_::GetALPHA_, &FILTER_::GetBETA_>);
-static_assert(kReturn<FILTER_, bool, &FILTER_::HasX_DIRECTION_, &FILTER_::HasY_DIRECTION_,
-                      &FILTER_::HasZ_DIRECTION_, &FILTER_::HasX_POINT_, &FILTER_::HasY_POINT_,
-                      &FILTER_::HasZ_POINT_, &FILTER_::HasFACE_GROUP_, &FILTER_::HasNODE_GROUP_,
-                      &FILTER_::HasELEMENT_GROUP_>);
+static_assert(kReturn<FILTER_, bool, &FILTER_::HasX_DIRECTION_, &FILTER_::HasY_DIRECTION_, &FILTER_::HasZ_DIRECTION_,
+                      &FILTER_::HasX_POINT_, &FILTER_::HasY_POINT_, &FILTER_::HasZ_POINT_, &FILTER_::HasFACE_GROUP_,
+                      &FILTER_::HasNODE_GROUP_, &FILTER_::HasELEMENT_GROUP_>);
 
 namespace
 {
 
-const char* const kFullText =
-  "m_ID_NAME_: fine\n"
-  "m_PATCH_ID_: wall\n"
-  "m_METHOD_: SIGMUND_SURFACE\n"
-  "m_RADIUS_: 2.5\n"
-  "m_has_X_DIRECTION_: yes\n"
-  "m_X_DIRECTION_: 0.1\n"
-  "m_has_Y_DIRECTION_: yes\n"
-  "m_Y_DIRECTION_: 0.2\n"
-  "m_has_Z_DIRECTION_: yes\n"
-  "m_Z_DIRECTION_: 0.3\n"
-  "m_has_X_POINT_: yes\n"
-  "m_X_POINT_: -1.5\n"
-  "m_has_Y_POINT_: yes\n"
-  "m_Y_POINT_: -2.5\n"
-  "m_has_Z_POINT_: yes\n"
-  "m_Z_POINT_: -3.5\n"
-  "m_has_FACE_GROUP_: yes\n"
-  "m_FACE_GROUP_: inlet_faces\n"
-  "m_has_NODE_GROUP_: yes\n"
-  "m_NODE_GROUP_: wall_nodes\n"
-  "m_has_ELEMENT_GROUP_: yes\n"
-  "m_ELEMENT_GROUP_: duct\n"
-  "m_ALPHA_: 0.7\n"
-  "m_BETA_: 0.8\n";
+const char* const kFullText = "m_ID_NAME_: fine\n"
+                              "m_PATCH_ID_: wall\n"
+                              "m_METHOD_: SIGMUND_SURFACE\n"
+                              "m_RADIUS_: 2.5\n"
+                              "m_has_X_DIRECTION_: yes\n"
+                              "m_X_DIRECTION_: 0.1\n"
+                              "m_has_Y_DIRECTION_: yes\n"
+                              "m_Y_DIRECTION_: 0.2\n"
+                              "m_has_Z_DIRECTION_: yes\n"
+                              "m_Z_DIRECTION_: 0.3\n"
+                              "m_has_X_POINT_: yes\n"
+                              "m_X_POINT_: -1.5\n"
+                              "m_has_Y_POINT_: yes\n"
+                              "m_Y_POINT_: -2.5\n"
+                              "m_has_Z_POINT_: yes\n"
+                              "m_Z_POINT_: -3.5\n"
+                              "m_has_FACE_GROUP_: yes\n"
+                              "m_FACE_GROUP_: inlet_faces\n"
+                              "m_has_NODE_GROUP_: yes\n"
+                              "m_NODE_GROUP_: wall_nodes\n"
+                              "m_has_ELEMENT_GROUP_: yes\n"
+                              "m_ELEMENT_GROUP_: duct\n"
+                              "m_ALPHA_: 0.7\n"
+                              "m_BETA_: 0.8\n";
 
 RecordingStorage StorageWithSparseFilter(const std::string& id)
 {
@@ -179,49 +176,37 @@ TEST(Filter, LoadsItsKeysInOrder)
 {
   const RecordingStorage storage = StorageWithFullFilter();
   LoadedAlone<FILTER_>(storage, "fine");
-  EXPECT_THAT(storage.Calls(), ElementsAre("GetValue(FILTER_, fine, PATCH_ID_, 1, vtmString, string)",
-                                           "GetEnumValue(FILTER_, fine, METHOD_, 1, vtmEnum)",
-                                           "GetValue(FILTER_, fine, RADIUS_, 1, vtmDouble, double)",
-                                           "HasElement(FILTER_, fine, X_DIRECTION_)",
-                                           "GetValue(FILTER_, fine, X_DIRECTION_, 1, vtmDouble, double)",
-                                           "HasElement(FILTER_, fine, Y_DIRECTION_)",
-                                           "GetValue(FILTER_, fine, Y_DIRECTION_, 1, vtmDouble, double)",
-                                           "HasElement(FILTER_, fine, Z_DIRECTION_)",
-                                           "GetValue(FILTER_, fine, Z_DIRECTION_, 1, vtmDouble, double)",
-                                           "HasElement(FILTER_, fine, X_POINT_)",
-                                           "GetValue(FILTER_, fine, X_POINT_, 1, vtmDouble, double)",
-                                           "HasElement(FILTER_, fine, Y_POINT_)",
-                                           "GetValue(FILTER_, fine, Y_POINT_, 1, vtmDouble, double)",
-                                           "HasElement(FILTER_, fine, Z_POINT_)",
-                                           "GetValue(FILTER_, fine, Z_POINT_, 1, vtmDouble, double)",
-                                           "HasElement(FILTER_, fine, FACE_GROUP_)",
-                                           "GetValue(FILTER_, fine, FACE_GROUP_, 1, vtmModelId, string)",
-                                           "HasElement(FILTER_, fine, NODE_GROUP_)",
-                                           "GetValue(FILTER_, fine, NODE_GROUP_, 1, vtmModelId, string)",
-                                           "HasElement(FILTER_, fine, ELEMENT_GROUP_)",
-                                           "GetValue(FILTER_, fine, ELEMENT_GROUP_, 1, vtmModelId, string)",
-                                           "GetValue(FILTER_, fine, ALPHA_, 1, vtmDouble, double)",
-                                           "GetValue(FILTER_, fine, BETA_, 1, vtmDouble, double)"));
+  EXPECT_THAT(
+    storage.Calls(),
+    ElementsAre(
+      "GetValue(FILTER_, fine, PATCH_ID_, 1, vtmString, string)", "GetEnumValue(FILTER_, fine, METHOD_, 1, vtmEnum)",
+      "GetValue(FILTER_, fine, RADIUS_, 1, vtmDouble, double)", "HasElement(FILTER_, fine, X_DIRECTION_)",
+      "GetValue(FILTER_, fine, X_DIRECTION_, 1, vtmDouble, double)", "HasElement(FILTER_, fine, Y_DIRECTION_)",
+      "GetValue(FILTER_, fine, Y_DIRECTION_, 1, vtmDouble, double)", "HasElement(FILTER_, fine, Z_DIRECTION_)",
+      "GetValue(FILTER_, fine, Z_DIRECTION_, 1, vtmDouble, double)", "HasElement(FILTER_, fine, X_POINT_)",
+      "GetValue(FILTER_, fine, X_POINT_, 1, vtmDouble, double)", "HasElement(FILTER_, fine, Y_POINT_)",
+      "GetValue(FILTER_, fine, Y_POINT_, 1, vtmDouble, double)", "HasElement(FILTER_, fine, Z_POINT_)",
+      "GetValue(FILTER_, fine, Z_POINT_, 1, vtmDouble, double)", "HasElement(FILTER_, fine, FACE_GROUP_)",
+      "GetValue(FILTER_, fine, FACE_GROUP_, 1, vtmModelId, string)", "HasElement(FILTER_, fine, NODE_GROUP_)",
+      "GetValue(FILTER_, fine, NODE_GROUP_, 1, vtmModelId, string)", "HasElement(FILTER_, fine, ELEMENT_GROUP_)",
+      "GetValue(FILTER_, fine, ELEMENT_GROUP_, 1, vtmModelId, string)",
+      "GetValue(FILTER_, fine, ALPHA_, 1, vtmDouble, double)", "GetValue(FILTER_, fine, BETA_, 1, vtmDouble, double)"));
 }
 
 TEST(Filter, DoesNotReadOptionalKeysThatAreAbsent)
 {
   const RecordingStorage storage = StorageWithSparseFilter("bare");
   LoadedAlone<FILTER_>(storage, "bare");
-  EXPECT_THAT(storage.Calls(), ElementsAre("GetValue(FILTER_, bare, PATCH_ID_, 1, vtmString, string)",
-                                           "GetEnumValue(FILTER_, bare, METHOD_, 1, vtmEnum)",
-                                           "GetValue(FILTER_, bare, RADIUS_, 1, vtmDouble, double)",
-                                           "HasElement(FILTER_, bare, X_DIRECTION_)",
-                                           "HasElement(FILTER_, bare, Y_DIRECTION_)",
-                                           "HasElement(FILTER_, bare, Z_DIRECTION_)",
-                                           "HasElement(FILTER_, bare, X_POINT_)",
-                                           "HasElement(FILTER_, bare, Y_POINT_)",
-                                           "HasElement(FILTER_, bare, Z_POINT_)",
-                                           "HasElement(FILTER_, bare, FACE_GROUP_)",
-                                           "HasElement(FILTER_, bare, NODE_GROUP_)",
-                                           "HasElement(FILTER_, bare, ELEMENT_GROUP_)",
-                                           "GetValue(FILTER_, bare, ALPHA_, 1, vtmDouble, double)",
-                                           "GetValue(FILTER_, bare, BETA_, 1, vtmDouble, double)"));
+  EXPECT_THAT(
+    storage.Calls(),
+    ElementsAre(
+      "GetValue(FILTER_, bare, PATCH_ID_, 1, vtmString, string)", "GetEnumValue(FILTER_, bare, METHOD_, 1, vtmEnum)",
+      "GetValue(FILTER_, bare, RADIUS_, 1, vtmDouble, double)", "HasElement(FILTER_, bare, X_DIRECTION_)",
+      "HasElement(FILTER_, bare, Y_DIRECTION_)", "HasElement(FILTER_, bare, Z_DIRECTION_)",
+      "HasElement(FILTER_, bare, X_POINT_)", "HasElement(FILTER_, bare, Y_POINT_)",
+      "HasElement(FILTER_, bare, Z_POINT_)", "HasElement(FILTER_, bare, FACE_GROUP_)",
+      "HasElement(FILTER_, bare, NODE_GROUP_)", "HasElement(FILTER_, bare, ELEMENT_GROUP_)",
+      "GetValue(FILTER_, bare, ALPHA_, 1, vtmDouble, double)", "GetValue(FILTER_, bare, BETA_, 1, vtmDouble, double)"));
 }
 
 TEST(Filter, GivesWhatItLoaded)
@@ -312,8 +297,7 @@ TEST(Filter, NamesItsMethodsOfWhichDistanceToBorderHasTheSmallLetterD)
                                                      {FILTER_::METHOD_MEDIAN, 78, "MEDIAN"},
                                                      {FILTER_::METHOD_DA_PLANE_NORMAL, 80, "DA_PLANE_NORMAL"},
                                                      {FILTER_::METHOD_SYMMETRY, 83, "SYMMETRY"},
-                                                     {FILTER_::METHOD_DISTANCE_TO_BORDER, 100,
-                                                      "DISTANCE_TO_BORDER"}});
+                                                     {FILTER_::METHOD_DISTANCE_TO_BORDER, 100, "DISTANCE_TO_BORDER"}});
   EXPECT_EQ(FILTER_::GetEnumName(static_cast<FILTER_::Enum_METHOD_>('d')), "DISTANCE_TO_BORDER");
   EXPECT_EQ(FILTER_::GetEnumName(static_cast<FILTER_::Enum_METHOD_>('D')), "DEMOLD");
   EXPECT_EQ(FILTER_::GetEnumName(static_cast<FILTER_::Enum_METHOD_>(0)), "INVALID");
@@ -335,22 +319,21 @@ TEST(Filter, PrintsItsDefaults)
   EXPECT_EQ(record.source, "LocalGenerated\\win_b64\\gyre_commands");
   EXPECT_EQ(record.line, 4353);
   EXPECT_EQ(record.prefix, "[%T|%n|%P|OrvelCommands|FILTER_] ");
-  EXPECT_EQ(record.text,
-            "m_ID_NAME_: \n"
-            "m_PATCH_ID_: \n"
-            "m_METHOD_: INVALID\n"
-            "m_RADIUS_: 0\n"
-            "m_has_X_DIRECTION_: no\n"
-            "m_has_Y_DIRECTION_: no\n"
-            "m_has_Z_DIRECTION_: no\n"
-            "m_has_X_POINT_: no\n"
-            "m_has_Y_POINT_: no\n"
-            "m_has_Z_POINT_: no\n"
-            "m_has_FACE_GROUP_: no\n"
-            "m_has_NODE_GROUP_: no\n"
-            "m_has_ELEMENT_GROUP_: no\n"
-            "m_ALPHA_: 0\n"
-            "m_BETA_: 0\n");
+  EXPECT_EQ(record.text, "m_ID_NAME_: \n"
+                         "m_PATCH_ID_: \n"
+                         "m_METHOD_: INVALID\n"
+                         "m_RADIUS_: 0\n"
+                         "m_has_X_DIRECTION_: no\n"
+                         "m_has_Y_DIRECTION_: no\n"
+                         "m_has_Z_DIRECTION_: no\n"
+                         "m_has_X_POINT_: no\n"
+                         "m_has_Y_POINT_: no\n"
+                         "m_has_Z_POINT_: no\n"
+                         "m_has_FACE_GROUP_: no\n"
+                         "m_has_NODE_GROUP_: no\n"
+                         "m_has_ELEMENT_GROUP_: no\n"
+                         "m_ALPHA_: 0\n"
+                         "m_BETA_: 0\n");
 }
 
 TEST(Filter, PrintsAllItHoldsAsPartOfAJob)
@@ -395,9 +378,9 @@ TEST(Filter, FindsAllUnknownGroupsInTheOrderOfItsKeys)
   const RecordingStorage storage = StorageWithFullFilter();
   FILTER_ command = LoadedAlone<FILTER_>(storage, "fine");
   const OpenDatabase database;
-  EXPECT_THAT(ProblemsIn(command, storage, "fine"), ElementsAre(Unknown("inlet_faces", "FACE_GROUP"),
-                                                                Unknown("wall_nodes", "NODE_GROUP"),
-                                                                Unknown("duct", "ELEMENT_GROUP")));
+  EXPECT_THAT(ProblemsIn(command, storage, "fine"),
+              ElementsAre(Unknown("inlet_faces", "FACE_GROUP"), Unknown("wall_nodes", "NODE_GROUP"),
+                          Unknown("duct", "ELEMENT_GROUP")));
 }
 
 TEST(Filter, GoesOnToTheNextGroupAfterAnUnknownOne)
@@ -406,8 +389,8 @@ TEST(Filter, GoesOnToTheNextGroupAfterAnUnknownOne)
   FILTER_ command = LoadedAlone<FILTER_>(storage, "fine");
   OpenDatabase database;
   database.Add(KLV_IdType::node_group, {"wall_nodes"});
-  EXPECT_THAT(ProblemsIn(command, storage, "fine"), ElementsAre(Unknown("inlet_faces", "FACE_GROUP"),
-                                                                Unknown("duct", "ELEMENT_GROUP")));
+  EXPECT_THAT(ProblemsIn(command, storage, "fine"),
+              ElementsAre(Unknown("inlet_faces", "FACE_GROUP"), Unknown("duct", "ELEMENT_GROUP")));
 }
 
 TEST(Filter, TellsTheMapsWhichOfTheirIdsItUses)
@@ -442,8 +425,8 @@ TEST(Filter, AcceptsAnyMixOfGroupsAndChecksJustThosePresent)
   FILTER_ command = LoadedAlone<FILTER_>(storage, "fine");
   storage.ForgetCalls();
   const OpenDatabase database;
-  EXPECT_THAT(ProblemsIn(command, storage, "fine"), ElementsAre(Unknown("skin", "FACE_GROUP"),
-                                                                Unknown("core", "ELEMENT_GROUP")));
+  EXPECT_THAT(ProblemsIn(command, storage, "fine"),
+              ElementsAre(Unknown("skin", "FACE_GROUP"), Unknown("core", "ELEMENT_GROUP")));
   EXPECT_THAT(storage.Calls(), ElementsAre("GetValue(FILTER_, fine, FACE_GROUP_, 1, vtmModelId, string)",
                                            "GetValue(FILTER_, fine, ELEMENT_GROUP_, 1, vtmModelId, string)"));
 }
@@ -489,8 +472,7 @@ TEST(Filter, AddsItsProblemsToThoseThatAreThere)
   std::string id = "fine";
   command.ValidateModelIds(storage, id, errors);
   command.ValidateModelIds(storage, id, errors);
-  EXPECT_THAT(ProblemsOf(errors), ElementsAre(Unknown("skin", "FACE_GROUP"),
-                                              Unknown("skin", "FACE_GROUP")));
+  EXPECT_THAT(ProblemsOf(errors), ElementsAre(Unknown("skin", "FACE_GROUP"), Unknown("skin", "FACE_GROUP")));
   EXPECT_EQ(id, "fine");
 }
 

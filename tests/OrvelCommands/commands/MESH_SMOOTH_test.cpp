@@ -1,11 +1,11 @@
 #include "OrvelCommands/commands/gyre_commands.h"
 #include "OrvelCommands/parfile/Gyre_Parfile.h"
-#include "support/CapturedLog.h"
-#include "support/OpenDatabase.h"
-#include "support/RecordingStorage.h"
 #include "support/accessor_types.h"
+#include "support/CapturedLog.h"
 #include "support/command_checks.h"
 #include "support/failures.h"
+#include "support/OpenDatabase.h"
+#include "support/RecordingStorage.h"
 
 #include <gmock/gmock.h>
 
@@ -19,53 +19,49 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 
 static_assert(kReturn<MESH_SMOOTH_, const std::string&, &MESH_SMOOTH_::GetType, &MESH_SMOOTH_::GetID_NAME_,
-                      &MESH_SMOOTH_::GetFACE_GROUP_, &MESH_SMOOTH_::GetNODE_GROUP_,
-                      &MESH_SMOOTH_::GetELEMENT_GROUP_>);
+                      &MESH_SMOOTH_::GetFACE_GROUP_, &MESH_SMOOTH_::GetNODE_GROUP_, &MESH_SMOOTH_::GetELEMENT_GROUP_>);
 static_assert(kReturn<MESH_SMOOTH_, const MESH_SMOOTH_::Enum_METHOD_&, &MESH_SMOOTH_::GetMETHOD_>);
 static_assert(kReturn<MESH_SMOOTH_, const int&, &MESH_SMOOTH_::GetCYCLE_, &MESH_SMOOTH_::GetSMOOTH_CYCLES_>);
 static_assert(kReturn<MESH_SMOOTH_, const double&, &MESH_SMOOTH_::GetALPHA_, &MESH_SMOOTH_::GetBETA_>);
 static_assert(kReturn<MESH_SMOOTH_, bool, &MESH_SMOOTH_::HasFACE_GROUP_, &MESH_SMOOTH_::HasNODE_GROUP_,
-                      &MESH_SMOOTH_::HasELEMENT_GROUP_, &MESH_SMOOTH_::HasFILTER_,
-                      &MESH_SMOOTH_::HasDV_CONSTRAINT_>);
+                      &MESH_SMOOTH_::HasELEMENT_GROUP_, &MESH_SMOOTH_::HasFILTER_, &MESH_SMOOTH_::HasDV_CONSTRAINT_>);
 static_assert(kReturn<MESH_SMOOTH_, const FILTER_&, &MESH_SMOOTH_::GetFILTER_>);
 static_assert(kReturn<MESH_SMOOTH_, const DV_CONSTRAINT_&, &MESH_SMOOTH_::GetDV_CONSTRAINT_>);
 
 namespace
 {
 
-const char* const kUnlinkedText =
-  "m_ID_NAME_: relax\n"
-  "m_METHOD_: CONSTRAINED_LAPLACIAN\n"
-  "m_CYCLE_: 3\n"
-  "m_has_FACE_GROUP_: yes\n"
-  "m_FACE_GROUP_: inlet_faces\n"
-  "m_has_NODE_GROUP_: yes\n"
-  "m_NODE_GROUP_: wall_nodes\n"
-  "m_has_ELEMENT_GROUP_: yes\n"
-  "m_ELEMENT_GROUP_: duct\n"
-  "m_SMOOTH_CYCLES_: 25\n"
-  "m_ALPHA_: 0.7\n"
-  "m_BETA_: 0.8\n"
-  "m_has_FILTER_: no\n"
-  "m_has_DV_CONSTRAINT_: no\n";
+const char* const kUnlinkedText = "m_ID_NAME_: relax\n"
+                                  "m_METHOD_: CONSTRAINED_LAPLACIAN\n"
+                                  "m_CYCLE_: 3\n"
+                                  "m_has_FACE_GROUP_: yes\n"
+                                  "m_FACE_GROUP_: inlet_faces\n"
+                                  "m_has_NODE_GROUP_: yes\n"
+                                  "m_NODE_GROUP_: wall_nodes\n"
+                                  "m_has_ELEMENT_GROUP_: yes\n"
+                                  "m_ELEMENT_GROUP_: duct\n"
+                                  "m_SMOOTH_CYCLES_: 25\n"
+                                  "m_ALPHA_: 0.7\n"
+                                  "m_BETA_: 0.8\n"
+                                  "m_has_FILTER_: no\n"
+                                  "m_has_DV_CONSTRAINT_: no\n";
 
-const char* const kLinkedText =
-  "m_ID_NAME_: relax\n"
-  "m_METHOD_: CONSTRAINED_LAPLACIAN\n"
-  "m_CYCLE_: 3\n"
-  "m_has_FACE_GROUP_: yes\n"
-  "m_FACE_GROUP_: inlet_faces\n"
-  "m_has_NODE_GROUP_: yes\n"
-  "m_NODE_GROUP_: wall_nodes\n"
-  "m_has_ELEMENT_GROUP_: yes\n"
-  "m_ELEMENT_GROUP_: duct\n"
-  "m_SMOOTH_CYCLES_: 25\n"
-  "m_ALPHA_: 0.7\n"
-  "m_BETA_: 0.8\n"
-  "m_has_FILTER_: yes\n"
-  "m_FILTER_: fine\n"
-  "m_has_DV_CONSTRAINT_: yes\n"
-  "m_DV_CONSTRAINT_: mirror\n";
+const char* const kLinkedText = "m_ID_NAME_: relax\n"
+                                "m_METHOD_: CONSTRAINED_LAPLACIAN\n"
+                                "m_CYCLE_: 3\n"
+                                "m_has_FACE_GROUP_: yes\n"
+                                "m_FACE_GROUP_: inlet_faces\n"
+                                "m_has_NODE_GROUP_: yes\n"
+                                "m_NODE_GROUP_: wall_nodes\n"
+                                "m_has_ELEMENT_GROUP_: yes\n"
+                                "m_ELEMENT_GROUP_: duct\n"
+                                "m_SMOOTH_CYCLES_: 25\n"
+                                "m_ALPHA_: 0.7\n"
+                                "m_BETA_: 0.8\n"
+                                "m_has_FILTER_: yes\n"
+                                "m_FILTER_: fine\n"
+                                "m_has_DV_CONSTRAINT_: yes\n"
+                                "m_DV_CONSTRAINT_: mirror\n";
 
 RecordingStorage StorageWithSparseMeshSmooth(const std::string& id)
 {
@@ -173,32 +169,31 @@ TEST(MeshSmooth, LoadsItsKeysInOrderAndLeavesTheReferencesAlone)
 {
   const RecordingStorage storage = StorageWithFullMeshSmooth();
   LoadedAlone<MESH_SMOOTH_>(storage, "relax");
-  EXPECT_THAT(storage.Calls(),
-              ElementsAre("GetEnumValue(MESH_SMOOTH_, relax, METHOD_, 1, vtmEnum)",
-                          "GetValue(MESH_SMOOTH_, relax, CYCLE_, 1, vtmInteger, int)",
-                          "HasElement(MESH_SMOOTH_, relax, FACE_GROUP_)",
-                          "GetValue(MESH_SMOOTH_, relax, FACE_GROUP_, 1, vtmModelId, string)",
-                          "HasElement(MESH_SMOOTH_, relax, NODE_GROUP_)",
-                          "GetValue(MESH_SMOOTH_, relax, NODE_GROUP_, 1, vtmModelId, string)",
-                          "HasElement(MESH_SMOOTH_, relax, ELEMENT_GROUP_)",
-                          "GetValue(MESH_SMOOTH_, relax, ELEMENT_GROUP_, 1, vtmModelId, string)",
-                          "GetValue(MESH_SMOOTH_, relax, SMOOTH_CYCLES_, 1, vtmInteger, int)",
-                          "GetValue(MESH_SMOOTH_, relax, ALPHA_, 1, vtmDouble, double)",
-                          "GetValue(MESH_SMOOTH_, relax, BETA_, 1, vtmDouble, double)"));
+  EXPECT_THAT(storage.Calls(), ElementsAre("GetEnumValue(MESH_SMOOTH_, relax, METHOD_, 1, vtmEnum)",
+                                           "GetValue(MESH_SMOOTH_, relax, CYCLE_, 1, vtmInteger, int)",
+                                           "HasElement(MESH_SMOOTH_, relax, FACE_GROUP_)",
+                                           "GetValue(MESH_SMOOTH_, relax, FACE_GROUP_, 1, vtmModelId, string)",
+                                           "HasElement(MESH_SMOOTH_, relax, NODE_GROUP_)",
+                                           "GetValue(MESH_SMOOTH_, relax, NODE_GROUP_, 1, vtmModelId, string)",
+                                           "HasElement(MESH_SMOOTH_, relax, ELEMENT_GROUP_)",
+                                           "GetValue(MESH_SMOOTH_, relax, ELEMENT_GROUP_, 1, vtmModelId, string)",
+                                           "GetValue(MESH_SMOOTH_, relax, SMOOTH_CYCLES_, 1, vtmInteger, int)",
+                                           "GetValue(MESH_SMOOTH_, relax, ALPHA_, 1, vtmDouble, double)",
+                                           "GetValue(MESH_SMOOTH_, relax, BETA_, 1, vtmDouble, double)"));
 }
 
 TEST(MeshSmooth, DoesNotReadGroupsThatAreAbsent)
 {
   const RecordingStorage storage = StorageWithSparseMeshSmooth("bare");
   LoadedAlone<MESH_SMOOTH_>(storage, "bare");
-  EXPECT_THAT(storage.Calls(), ElementsAre("GetEnumValue(MESH_SMOOTH_, bare, METHOD_, 1, vtmEnum)",
-                                           "GetValue(MESH_SMOOTH_, bare, CYCLE_, 1, vtmInteger, int)",
-                                           "HasElement(MESH_SMOOTH_, bare, FACE_GROUP_)",
-                                           "HasElement(MESH_SMOOTH_, bare, NODE_GROUP_)",
-                                           "HasElement(MESH_SMOOTH_, bare, ELEMENT_GROUP_)",
-                                           "GetValue(MESH_SMOOTH_, bare, SMOOTH_CYCLES_, 1, vtmInteger, int)",
-                                           "GetValue(MESH_SMOOTH_, bare, ALPHA_, 1, vtmDouble, double)",
-                                           "GetValue(MESH_SMOOTH_, bare, BETA_, 1, vtmDouble, double)"));
+  EXPECT_THAT(storage.Calls(),
+              ElementsAre("GetEnumValue(MESH_SMOOTH_, bare, METHOD_, 1, vtmEnum)",
+                          "GetValue(MESH_SMOOTH_, bare, CYCLE_, 1, vtmInteger, int)",
+                          "HasElement(MESH_SMOOTH_, bare, FACE_GROUP_)", "HasElement(MESH_SMOOTH_, bare, NODE_GROUP_)",
+                          "HasElement(MESH_SMOOTH_, bare, ELEMENT_GROUP_)",
+                          "GetValue(MESH_SMOOTH_, bare, SMOOTH_CYCLES_, 1, vtmInteger, int)",
+                          "GetValue(MESH_SMOOTH_, bare, ALPHA_, 1, vtmDouble, double)",
+                          "GetValue(MESH_SMOOTH_, bare, BETA_, 1, vtmDouble, double)"));
 }
 
 TEST(MeshSmooth, GivesWhatItLoadedAndHasNoReferencesYet)
@@ -277,18 +272,17 @@ TEST(MeshSmooth, PrintsItsDefaults)
   EXPECT_EQ(record.source, "LocalGenerated\\win_b64\\gyre_commands");
   EXPECT_EQ(record.line, 3986);
   EXPECT_EQ(record.prefix, "[%T|%n|%P|OrvelCommands|MESH_SMOOTH_] ");
-  EXPECT_EQ(record.text,
-            "m_ID_NAME_: \n"
-            "m_METHOD_: INVALID\n"
-            "m_CYCLE_: 0\n"
-            "m_has_FACE_GROUP_: no\n"
-            "m_has_NODE_GROUP_: no\n"
-            "m_has_ELEMENT_GROUP_: no\n"
-            "m_SMOOTH_CYCLES_: 0\n"
-            "m_ALPHA_: 0\n"
-            "m_BETA_: 0\n"
-            "m_has_FILTER_: no\n"
-            "m_has_DV_CONSTRAINT_: no\n");
+  EXPECT_EQ(record.text, "m_ID_NAME_: \n"
+                         "m_METHOD_: INVALID\n"
+                         "m_CYCLE_: 0\n"
+                         "m_has_FACE_GROUP_: no\n"
+                         "m_has_NODE_GROUP_: no\n"
+                         "m_has_ELEMENT_GROUP_: no\n"
+                         "m_SMOOTH_CYCLES_: 0\n"
+                         "m_ALPHA_: 0\n"
+                         "m_BETA_: 0\n"
+                         "m_has_FILTER_: no\n"
+                         "m_has_DV_CONSTRAINT_: no\n");
 }
 
 TEST(MeshSmooth, PrintsNoReferencesBeforeTheyAreResolved)
@@ -300,8 +294,7 @@ TEST(MeshSmooth, PrintsTheIdsOfItsFilterAndItsConstraintOnceTheyAreResolved)
 {
   LinkedJob job(StorageWithTargets());
   const KLV_LogRecord record = LogRecordOf(job->GetMESH_SMOOTH_("relax"));
-  EXPECT_EQ(HeadOf(record),
-            "LocalGenerated\\win_b64\\gyre_commands:3986 [%T|%n|%P|OrvelCommands|MESH_SMOOTH_] ");
+  EXPECT_EQ(HeadOf(record), "LocalGenerated\\win_b64\\gyre_commands:3986 [%T|%n|%P|OrvelCommands|MESH_SMOOTH_] ");
   EXPECT_EQ(record.text, kLinkedText);
 }
 
@@ -324,10 +317,10 @@ TEST(MeshSmooth, AsksForItsReferencesInOrderWhenAJobIsLinked)
   std::vector<std::string> calls = job.CallsAbout("MESH_SMOOTH_", "relax");
   ASSERT_EQ(calls.size(), 15U);
   calls.erase(calls.begin(), calls.begin() + 11);
-  EXPECT_THAT(calls, ElementsAre("HasElement(MESH_SMOOTH_, relax, FILTER_)",
-                                 "GetReference(MESH_SMOOTH_, relax, FILTER_, 1)",
-                                 "HasElement(MESH_SMOOTH_, relax, DV_CONSTRAINT_)",
-                                 "GetReference(MESH_SMOOTH_, relax, DV_CONSTRAINT_, 1)"));
+  EXPECT_THAT(calls,
+              ElementsAre("HasElement(MESH_SMOOTH_, relax, FILTER_)", "GetReference(MESH_SMOOTH_, relax, FILTER_, 1)",
+                          "HasElement(MESH_SMOOTH_, relax, DV_CONSTRAINT_)",
+                          "GetReference(MESH_SMOOTH_, relax, DV_CONSTRAINT_, 1)"));
 }
 
 TEST(MeshSmooth, DoesNotReadReferencesThatAreAbsent)
@@ -336,8 +329,8 @@ TEST(MeshSmooth, DoesNotReadReferencesThatAreAbsent)
   std::vector<std::string> calls = job.CallsAbout("MESH_SMOOTH_", "bare");
   ASSERT_EQ(calls.size(), 10U);
   calls.erase(calls.begin(), calls.begin() + 8);
-  EXPECT_THAT(calls, ElementsAre("HasElement(MESH_SMOOTH_, bare, FILTER_)",
-                                 "HasElement(MESH_SMOOTH_, bare, DV_CONSTRAINT_)"));
+  EXPECT_THAT(calls,
+              ElementsAre("HasElement(MESH_SMOOTH_, bare, FILTER_)", "HasElement(MESH_SMOOTH_, bare, DV_CONSTRAINT_)"));
   EXPECT_FALSE(job->GetMESH_SMOOTH_("bare").HasFILTER_());
   EXPECT_FALSE(job->GetMESH_SMOOTH_("bare").HasDV_CONSTRAINT_());
 }
@@ -398,8 +391,7 @@ TEST(MeshSmooth, IsLinkedUpToTheReferenceThatEndsTheLoad)
 TEST(MeshSmooth, PrintsAPercentSignInAGroupAsAConversion)
 {
   const RecordingStorage storage = StorageWithMeshSmoothOn("NODE_GROUP_", "%d%% of wall");
-  EXPECT_THAT(LogRecordOf(LoadedAlone<MESH_SMOOTH_>(storage, "relax")).text,
-              HasSubstr("m_NODE_GROUP_: 0% of wall\n"));
+  EXPECT_THAT(LogRecordOf(LoadedAlone<MESH_SMOOTH_>(storage, "relax")).text, HasSubstr("m_NODE_GROUP_: 0% of wall\n"));
 }
 
 TEST(MeshSmooth, ChecksEachGroupAmongTheModelsGroupsOfItsKind)
@@ -470,9 +462,8 @@ TEST(MeshSmooth, AcceptsAnyMixOfGroupsAndChecksJustThosePresent)
   const OpenDatabase database;
   EXPECT_THAT(ProblemsIn(command, storage, "relax"),
               ElementsAre(Unknown("rim", "NODE_GROUP"), Unknown("core", "ELEMENT_GROUP")));
-  EXPECT_THAT(storage.Calls(),
-              ElementsAre("GetValue(MESH_SMOOTH_, relax, NODE_GROUP_, 1, vtmModelId, string)",
-                          "GetValue(MESH_SMOOTH_, relax, ELEMENT_GROUP_, 1, vtmModelId, string)"));
+  EXPECT_THAT(storage.Calls(), ElementsAre("GetValue(MESH_SMOOTH_, relax, NODE_GROUP_, 1, vtmModelId, string)",
+                                           "GetValue(MESH_SMOOTH_, relax, ELEMENT_GROUP_, 1, vtmModelId, string)"));
 }
 
 TEST(MeshSmooth, HasNothingToCheckWithoutGroupsAndNeedsNoDatabaseThen)

@@ -1,9 +1,9 @@
 #include "OrvelCommands/commands/gyre_commands.h"
 #include "OrvelCommands/parfile/Gyre_Parfile.h"
 #include "support/CapturedLog.h"
-#include "support/RecordingStorage.h"
 #include "support/command_checks.h"
 #include "support/failures.h"
+#include "support/RecordingStorage.h"
 
 #include <gmock/gmock.h>
 
@@ -16,11 +16,10 @@ using testing::StaticAssertTypeEq;
 namespace
 {
 
-const char* const kFullText =
-    "m_ID_NAME_: model\n"
-    "m_FILE_: duct.cas\n"
-    "m_has_SOLVER_: yes\n"
-    "m_SOLVER_: flow\n";
+const char* const kFullText = "m_ID_NAME_: model\n"
+                              "m_FILE_: duct.cas\n"
+                              "m_has_SOLVER_: yes\n"
+                              "m_SOLVER_: flow\n";
 
 RecordingStorage StorageWithFullModel()
 {
@@ -81,17 +80,17 @@ TEST(Model, LoadsItsKeysInOrder)
 {
   const RecordingStorage storage = StorageWithFullModel();
   LoadedAlone<MODEL_>(storage, "model");
-  EXPECT_THAT(storage.Calls(), ElementsAre("GetValue(MODEL_, model, FILE_, 1, vtmString, string)",
-                                           "HasElement(MODEL_, model, SOLVER_)",
-                                           "GetValue(MODEL_, model, SOLVER_, 1, vtmString, string)"));
+  EXPECT_THAT(storage.Calls(),
+              ElementsAre("GetValue(MODEL_, model, FILE_, 1, vtmString, string)", "HasElement(MODEL_, model, SOLVER_)",
+                          "GetValue(MODEL_, model, SOLVER_, 1, vtmString, string)"));
 }
 
 TEST(Model, DoesNotReadASolverThatIsAbsent)
 {
   const RecordingStorage storage = StorageWithModelOf("bare", "duct.cas");
   LoadedAlone<MODEL_>(storage, "bare");
-  EXPECT_THAT(storage.Calls(), ElementsAre("GetValue(MODEL_, bare, FILE_, 1, vtmString, string)",
-                                           "HasElement(MODEL_, bare, SOLVER_)"));
+  EXPECT_THAT(storage.Calls(),
+              ElementsAre("GetValue(MODEL_, bare, FILE_, 1, vtmString, string)", "HasElement(MODEL_, bare, SOLVER_)"));
 }
 
 TEST(Model, GivesWhatItLoaded)

@@ -1,10 +1,10 @@
 #include "OrvelCommands/commands/gyre_commands.h"
 #include "OrvelCommands/parfile/Gyre_Parfile.h"
-#include "support/CapturedLog.h"
-#include "support/RecordingStorage.h"
 #include "support/accessor_types.h"
+#include "support/CapturedLog.h"
 #include "support/command_checks.h"
 #include "support/failures.h"
+#include "support/RecordingStorage.h"
 
 #include <gmock/gmock.h>
 
@@ -70,8 +70,7 @@ TEST(Monitor, PrintsItsDefaults)
 
 TEST(Monitor, PrintsAnEmptyIdForItsResponseBeforeItIsResolved)
 {
-  EXPECT_EQ(LogRecordOf(LoadedAlone<MONITOR_>(StorageWithMonitor(), "watch")).text,
-            "m_ID_NAME_: watch\nm_DRESP_: \n");
+  EXPECT_EQ(LogRecordOf(LoadedAlone<MONITOR_>(StorageWithMonitor(), "watch")).text, "m_ID_NAME_: watch\nm_DRESP_: \n");
 }
 
 TEST(Monitor, PrintsTheIdOfItsResponseOnceItIsResolved)
@@ -85,8 +84,7 @@ TEST(Monitor, PrintsTheIdOfItsResponseOnceItIsResolved)
 TEST(Monitor, PrintsAPercentSignInItsIdAsAConversion)
 {
   const RecordingStorage storage;
-  EXPECT_EQ(LogRecordOf(LoadedAlone<MONITOR_>(storage, "%3d of 100%%")).text,
-            "m_ID_NAME_:   0 of 100%\nm_DRESP_: \n");
+  EXPECT_EQ(LogRecordOf(LoadedAlone<MONITOR_>(storage, "%3d of 100%%")).text, "m_ID_NAME_:   0 of 100%\nm_DRESP_: \n");
 }
 
 TEST(Monitor, IsLinkedByTheNameInItsReferenceKey)

@@ -1,9 +1,9 @@
 #include "OrvelCommands/commands/gyre_commands.h"
 #include "OrvelCommands/parfile/Gyre_Parfile.h"
 #include "support/CapturedLog.h"
-#include "support/RecordingStorage.h"
 #include "support/command_checks.h"
 #include "support/failures.h"
+#include "support/RecordingStorage.h"
 #include "support/required_commands.h"
 
 #include <gmock/gmock.h>
@@ -23,17 +23,16 @@ namespace
 const char* const kIndexPrefix = "[%T|%n|%P|libxml2vtm|OBJ_FUNC_] ";
 const char* const kJobPrefix = "[%T|%n|%P|OrvelCommands|Gyre_Parfile] ";
 
-const char* const kFullText =
-    "m_ID_NAME_: objective\n"
-    "m_has_DRESP_: yes\n"
-    "m_DRESP_: drop\n"
-    "m_has_OPERATOR_: yes\n"
-    "m_OPERATOR_: sum\n"
-    "m_TARGET_: MIN\n"
-    "m_SENSSCALING_TYPE_: SCALED\n"
-    "m_SENSSCALING_VALUE_: 0.5\n"
-    "m_num_FILTER_: 2\n"
-    "m_FILTER_: [\nfine coarse ]\n";
+const char* const kFullText = "m_ID_NAME_: objective\n"
+                              "m_has_DRESP_: yes\n"
+                              "m_DRESP_: drop\n"
+                              "m_has_OPERATOR_: yes\n"
+                              "m_OPERATOR_: sum\n"
+                              "m_TARGET_: MIN\n"
+                              "m_SENSSCALING_TYPE_: SCALED\n"
+                              "m_SENSSCALING_VALUE_: 0.5\n"
+                              "m_num_FILTER_: 2\n"
+                              "m_FILTER_: [\nfine coarse ]\n";
 
 RecordingStorage StorageWithFullObjective()
 {
@@ -134,20 +133,18 @@ TEST(ObjFunc, LoadsItsKeysInOrderAndLeavesTheReferencesAlone)
 {
   const RecordingStorage storage = StorageWithFullObjective();
   LoadedAlone<OBJ_FUNC_>(storage, "objective");
-  EXPECT_THAT(storage.Calls(),
-              ElementsAre("GetEnumValue(OBJ_FUNC_, objective, TARGET_, 1, vtmEnum)",
-                          "GetEnumValue(OBJ_FUNC_, objective, SENSSCALING_TYPE_, 1, vtmEnum)",
-                          "GetValue(OBJ_FUNC_, objective, SENSSCALING_VALUE_, 1, vtmDouble, double)"));
+  EXPECT_THAT(storage.Calls(), ElementsAre("GetEnumValue(OBJ_FUNC_, objective, TARGET_, 1, vtmEnum)",
+                                           "GetEnumValue(OBJ_FUNC_, objective, SENSSCALING_TYPE_, 1, vtmEnum)",
+                                           "GetValue(OBJ_FUNC_, objective, SENSSCALING_VALUE_, 1, vtmDouble, double)"));
 }
 
 TEST(ObjFunc, ReadsTheSameKeysWhenThereAreNoReferences)
 {
   const RecordingStorage storage = StorageWithBareObjective();
   LoadedAlone<OBJ_FUNC_>(storage, "objective");
-  EXPECT_THAT(storage.Calls(),
-              ElementsAre("GetEnumValue(OBJ_FUNC_, objective, TARGET_, 1, vtmEnum)",
-                          "GetEnumValue(OBJ_FUNC_, objective, SENSSCALING_TYPE_, 1, vtmEnum)",
-                          "GetValue(OBJ_FUNC_, objective, SENSSCALING_VALUE_, 1, vtmDouble, double)"));
+  EXPECT_THAT(storage.Calls(), ElementsAre("GetEnumValue(OBJ_FUNC_, objective, TARGET_, 1, vtmEnum)",
+                                           "GetEnumValue(OBJ_FUNC_, objective, SENSSCALING_TYPE_, 1, vtmEnum)",
+                                           "GetValue(OBJ_FUNC_, objective, SENSSCALING_VALUE_, 1, vtmDouble, double)"));
 }
 
 TEST(ObjFunc, GivesWhatItLoaded)
@@ -166,16 +163,16 @@ TEST(ObjFunc, GivesWhatItLoaded)
 TEST(ObjFunc, NamesItsOnlyTarget)
 {
   ExpectEnumerators<OBJ_FUNC_, OBJ_FUNC_::Enum_TARGET_>({
-      {OBJ_FUNC_::TARGET_MIN, 77, "MIN"},
+    {OBJ_FUNC_::TARGET_MIN, 77, "MIN"},
   });
 }
 
 TEST(ObjFunc, NamesItsSensitivityScalings)
 {
   ExpectEnumerators<OBJ_FUNC_, OBJ_FUNC_::Enum_SENSSCALING_TYPE_>({
-      {OBJ_FUNC_::SENSSCALING_TYPE_NONE, 78, "NONE"},
-      {OBJ_FUNC_::SENSSCALING_TYPE_NORMED_TO_ONE, 79, "NORMED_TO_ONE"},
-      {OBJ_FUNC_::SENSSCALING_TYPE_SCALED, 83, "SCALED"},
+    {OBJ_FUNC_::SENSSCALING_TYPE_NONE, 78, "NONE"},
+    {OBJ_FUNC_::SENSSCALING_TYPE_NORMED_TO_ONE, 79, "NORMED_TO_ONE"},
+    {OBJ_FUNC_::SENSSCALING_TYPE_SCALED, 83, "SCALED"},
   });
 }
 
@@ -185,15 +182,14 @@ TEST(ObjFunc, TakesATargetThatIsNotMinAndPrintsItAsInvalid)
   storage.Command("OBJ_FUNC_", "objective")["TARGET_"] = {int{'X'}};
   const OBJ_FUNC_ command = LoadedAlone<OBJ_FUNC_>(storage, "objective");
   EXPECT_EQ(command.GetTARGET_(), 88);
-  EXPECT_EQ(TextOf(command),
-            "m_ID_NAME_: objective\n"
-            "m_has_DRESP_: no\n"
-            "m_has_OPERATOR_: no\n"
-            "m_TARGET_: INVALID\n"
-            "m_SENSSCALING_TYPE_: NONE\n"
-            "m_SENSSCALING_VALUE_: 1.5\n"
-            "m_num_FILTER_: 0\n"
-            "m_FILTER_: [\n]\n");
+  EXPECT_EQ(TextOf(command), "m_ID_NAME_: objective\n"
+                             "m_has_DRESP_: no\n"
+                             "m_has_OPERATOR_: no\n"
+                             "m_TARGET_: INVALID\n"
+                             "m_SENSSCALING_TYPE_: NONE\n"
+                             "m_SENSSCALING_VALUE_: 1.5\n"
+                             "m_num_FILTER_: 0\n"
+                             "m_FILTER_: [\n]\n");
 }
 
 TEST(ObjFunc, PrintsItsDefaults)
@@ -202,36 +198,33 @@ TEST(ObjFunc, PrintsItsDefaults)
   EXPECT_EQ(record.source, "LocalGenerated\\win_b64\\gyre_commands");
   EXPECT_EQ(record.line, 1964);
   EXPECT_EQ(record.prefix, "[%T|%n|%P|OrvelCommands|OBJ_FUNC_] ");
-  EXPECT_EQ(record.text,
-            "m_ID_NAME_: \n"
-            "m_has_DRESP_: no\n"
-            "m_has_OPERATOR_: no\n"
-            "m_TARGET_: INVALID\n"
-            "m_SENSSCALING_TYPE_: INVALID\n"
-            "m_SENSSCALING_VALUE_: 0\n"
-            "m_num_FILTER_: 0\n"
-            "m_FILTER_: [\n]\n");
+  EXPECT_EQ(record.text, "m_ID_NAME_: \n"
+                         "m_has_DRESP_: no\n"
+                         "m_has_OPERATOR_: no\n"
+                         "m_TARGET_: INVALID\n"
+                         "m_SENSSCALING_TYPE_: INVALID\n"
+                         "m_SENSSCALING_VALUE_: 0\n"
+                         "m_num_FILTER_: 0\n"
+                         "m_FILTER_: [\n]\n");
 }
 
 TEST(ObjFunc, PrintsNoReferencesBeforeItIsLinkedEvenIfTheFileHasThem)
 {
-  EXPECT_EQ(TextOf(FullObjective()),
-            "m_ID_NAME_: objective\n"
-            "m_has_DRESP_: no\n"
-            "m_has_OPERATOR_: no\n"
-            "m_TARGET_: MIN\n"
-            "m_SENSSCALING_TYPE_: SCALED\n"
-            "m_SENSSCALING_VALUE_: 0.5\n"
-            "m_num_FILTER_: 0\n"
-            "m_FILTER_: [\n]\n");
+  EXPECT_EQ(TextOf(FullObjective()), "m_ID_NAME_: objective\n"
+                                     "m_has_DRESP_: no\n"
+                                     "m_has_OPERATOR_: no\n"
+                                     "m_TARGET_: MIN\n"
+                                     "m_SENSSCALING_TYPE_: SCALED\n"
+                                     "m_SENSSCALING_VALUE_: 0.5\n"
+                                     "m_num_FILTER_: 0\n"
+                                     "m_FILTER_: [\n]\n");
 }
 
 TEST(ObjFunc, PrintsAllItHoldsOnceItIsLinked)
 {
   LinkedJob job(StorageWithFullJob());
   const KLV_LogRecord record = LogRecordOf(job->GetOBJ_FUNC_());
-  EXPECT_EQ(HeadOf(record),
-            "LocalGenerated\\win_b64\\gyre_commands:1964 [%T|%n|%P|OrvelCommands|OBJ_FUNC_] ");
+  EXPECT_EQ(HeadOf(record), "LocalGenerated\\win_b64\\gyre_commands:1964 [%T|%n|%P|OrvelCommands|OBJ_FUNC_] ");
   EXPECT_EQ(record.text, kFullText);
 }
 
@@ -259,17 +252,15 @@ TEST(ObjFunc, RefersToTheCommandsOfTheJob)
 TEST(ObjFunc, ReadsItsReferencesAfterAllItsValues)
 {
   LinkedJob job(StorageWithFullJob());
-  EXPECT_THAT(job.CallsAbout("OBJ_FUNC_", "objective"),
-              ElementsAre("GetEnumValue(OBJ_FUNC_, objective, TARGET_, 1, vtmEnum)",
-                          "GetEnumValue(OBJ_FUNC_, objective, SENSSCALING_TYPE_, 1, vtmEnum)",
-                          "GetValue(OBJ_FUNC_, objective, SENSSCALING_VALUE_, 1, vtmDouble, double)",
-                          "HasElement(OBJ_FUNC_, objective, DRESP_)",
-                          "GetReference(OBJ_FUNC_, objective, DRESP_, 1)",
-                          "HasElement(OBJ_FUNC_, objective, OPERATOR_)",
-                          "GetReference(OBJ_FUNC_, objective, OPERATOR_, 1)",
-                          "GetNumElements(OBJ_FUNC_, objective, FILTER_)",
-                          "GetReference(OBJ_FUNC_, objective, FILTER_, 1)",
-                          "GetReference(OBJ_FUNC_, objective, FILTER_, 2)"));
+  EXPECT_THAT(
+    job.CallsAbout("OBJ_FUNC_", "objective"),
+    ElementsAre("GetEnumValue(OBJ_FUNC_, objective, TARGET_, 1, vtmEnum)",
+                "GetEnumValue(OBJ_FUNC_, objective, SENSSCALING_TYPE_, 1, vtmEnum)",
+                "GetValue(OBJ_FUNC_, objective, SENSSCALING_VALUE_, 1, vtmDouble, double)",
+                "HasElement(OBJ_FUNC_, objective, DRESP_)", "GetReference(OBJ_FUNC_, objective, DRESP_, 1)",
+                "HasElement(OBJ_FUNC_, objective, OPERATOR_)", "GetReference(OBJ_FUNC_, objective, OPERATOR_, 1)",
+                "GetNumElements(OBJ_FUNC_, objective, FILTER_)", "GetReference(OBJ_FUNC_, objective, FILTER_, 1)",
+                "GetReference(OBJ_FUNC_, objective, FILTER_, 2)"));
 }
 
 TEST(ObjFunc, LinksWithNeitherAResponseNorAnOperator)
@@ -283,8 +274,7 @@ TEST(ObjFunc, LinksWithNeitherAResponseNorAnOperator)
               ElementsAre("GetEnumValue(OBJ_FUNC_, objective, TARGET_, 1, vtmEnum)",
                           "GetEnumValue(OBJ_FUNC_, objective, SENSSCALING_TYPE_, 1, vtmEnum)",
                           "GetValue(OBJ_FUNC_, objective, SENSSCALING_VALUE_, 1, vtmDouble, double)",
-                          "HasElement(OBJ_FUNC_, objective, DRESP_)",
-                          "HasElement(OBJ_FUNC_, objective, OPERATOR_)",
+                          "HasElement(OBJ_FUNC_, objective, DRESP_)", "HasElement(OBJ_FUNC_, objective, OPERATOR_)",
                           "GetNumElements(OBJ_FUNC_, objective, FILTER_)"));
 }
 
@@ -305,8 +295,7 @@ TEST(ObjFunc, CannotBeLinkedToACommandThatIsMissing)
   EXPECT_EQ(FailureOfUnknown("DRESP_"),
             (Failure{"Invalid ID nobody of the parameter file command DRESP_", "161700240908", kJobPrefix}));
   EXPECT_EQ(FailureOfUnknown("OPERATOR_"),
-            (Failure{"Invalid ID nobody of the parameter file command OPERATOR_", "161700240908",
-                     kJobPrefix}));
+            (Failure{"Invalid ID nobody of the parameter file command OPERATOR_", "161700240908", kJobPrefix}));
   EXPECT_EQ(FailureOfUnknown("FILTER_"),
             (Failure{"Invalid ID nobody of the parameter file command FILTER_", "161700240908", kJobPrefix}));
 }

@@ -1,9 +1,9 @@
 #include "OrvelCommands/commands/gyre_commands.h"
 #include "OrvelCommands/parfile/Gyre_Parfile.h"
 #include "support/CapturedLog.h"
-#include "support/RecordingStorage.h"
 #include "support/command_checks.h"
 #include "support/failures.h"
+#include "support/RecordingStorage.h"
 #include "support/required_commands.h"
 
 #include <gmock/gmock.h>
@@ -22,21 +22,20 @@ namespace
 
 const char* const kIndexPrefix = "[%T|%n|%P|libxml2vtm|OPERATOR_] ";
 
-const char* const kFullText =
-    "m_ID_NAME_: sum\n"
-    "m_TYPE_: WEIGHTED_SUM\n"
-    "m_UPDATE_TYPE_: RECEIVED\n"
-    "m_UPDATE_ID_: external\n"
-    "m_UPDATE_INDEX_: 7\n"
-    "m_num_DRESP_: 2\n"
-    "m_DRESP_: [\ndrop swirl ]\n"
-    "m_num_DRESP_WEIGHT_: 3\n"
-    "m_DRESP_WEIGHT_: [\n0.25 -1.5 4]\n"
-    "m_num_OPERATOR_: 1\n"
-    "m_OPERATOR_: [\nnorm ]\n"
-    "m_num_OPERATOR_WEIGHT_: 2\n"
-    "m_OPERATOR_WEIGHT_: [\n0.5 0.75]\n"
-    "m_FACTOR_: 2.5\n";
+const char* const kFullText = "m_ID_NAME_: sum\n"
+                              "m_TYPE_: WEIGHTED_SUM\n"
+                              "m_UPDATE_TYPE_: RECEIVED\n"
+                              "m_UPDATE_ID_: external\n"
+                              "m_UPDATE_INDEX_: 7\n"
+                              "m_num_DRESP_: 2\n"
+                              "m_DRESP_: [\ndrop swirl ]\n"
+                              "m_num_DRESP_WEIGHT_: 3\n"
+                              "m_DRESP_WEIGHT_: [\n0.25 -1.5 4]\n"
+                              "m_num_OPERATOR_: 1\n"
+                              "m_OPERATOR_: [\nnorm ]\n"
+                              "m_num_OPERATOR_WEIGHT_: 2\n"
+                              "m_OPERATOR_WEIGHT_: [\n0.5 0.75]\n"
+                              "m_FACTOR_: 2.5\n";
 
 RecordingStorage StorageWithFullOperator()
 {
@@ -144,19 +143,18 @@ TEST(Operator, LoadsItsKeysInOrderAndLeavesTheReferencesAlone)
 {
   const RecordingStorage storage = StorageWithFullOperator();
   LoadedAlone<OPERATOR_>(storage, "sum");
-  EXPECT_THAT(storage.Calls(),
-              ElementsAre("GetEnumValue(OPERATOR_, sum, TYPE_, 1, vtmEnum)",
-                          "GetEnumValue(OPERATOR_, sum, UPDATE_TYPE_, 1, vtmEnum)",
-                          "GetValue(OPERATOR_, sum, UPDATE_ID_, 1, vtmString, string)",
-                          "GetValue(OPERATOR_, sum, UPDATE_INDEX_, 1, vtmInteger, int)",
-                          "GetNumElements(OPERATOR_, sum, DRESP_WEIGHT_)",
-                          "GetValue(OPERATOR_, sum, DRESP_WEIGHT_, 1, vtmDouble, double)",
-                          "GetValue(OPERATOR_, sum, DRESP_WEIGHT_, 2, vtmDouble, double)",
-                          "GetValue(OPERATOR_, sum, DRESP_WEIGHT_, 3, vtmDouble, double)",
-                          "GetNumElements(OPERATOR_, sum, OPERATOR_WEIGHT_)",
-                          "GetValue(OPERATOR_, sum, OPERATOR_WEIGHT_, 1, vtmDouble, double)",
-                          "GetValue(OPERATOR_, sum, OPERATOR_WEIGHT_, 2, vtmDouble, double)",
-                          "GetValue(OPERATOR_, sum, FACTOR_, 1, vtmDouble, double)"));
+  EXPECT_THAT(storage.Calls(), ElementsAre("GetEnumValue(OPERATOR_, sum, TYPE_, 1, vtmEnum)",
+                                           "GetEnumValue(OPERATOR_, sum, UPDATE_TYPE_, 1, vtmEnum)",
+                                           "GetValue(OPERATOR_, sum, UPDATE_ID_, 1, vtmString, string)",
+                                           "GetValue(OPERATOR_, sum, UPDATE_INDEX_, 1, vtmInteger, int)",
+                                           "GetNumElements(OPERATOR_, sum, DRESP_WEIGHT_)",
+                                           "GetValue(OPERATOR_, sum, DRESP_WEIGHT_, 1, vtmDouble, double)",
+                                           "GetValue(OPERATOR_, sum, DRESP_WEIGHT_, 2, vtmDouble, double)",
+                                           "GetValue(OPERATOR_, sum, DRESP_WEIGHT_, 3, vtmDouble, double)",
+                                           "GetNumElements(OPERATOR_, sum, OPERATOR_WEIGHT_)",
+                                           "GetValue(OPERATOR_, sum, OPERATOR_WEIGHT_, 1, vtmDouble, double)",
+                                           "GetValue(OPERATOR_, sum, OPERATOR_WEIGHT_, 2, vtmDouble, double)",
+                                           "GetValue(OPERATOR_, sum, FACTOR_, 1, vtmDouble, double)"));
 }
 
 TEST(Operator, OnlyCountsWeightsThatAreAbsent)
@@ -230,20 +228,20 @@ TEST(Operator, DoesNotCompareItsWeightsWithItsReferences)
 TEST(Operator, NamesItsTypesAndKeepsSmallLettersApart)
 {
   ExpectEnumerators<OPERATOR_, OPERATOR_::Enum_TYPE_>({
-      {OPERATOR_::TYPE_P_MEAN_NORM, 77, "P_MEAN_NORM"},
-      {OPERATOR_::TYPE_P_NORM, 80, "P_NORM"},
-      {OPERATOR_::TYPE_WEIGHTED_SUM, 87, "WEIGHTED_SUM"},
-      {OPERATOR_::TYPE_MAX, 88, "MAX"},
-      {OPERATOR_::TYPE_P_MEAN_NORM_C, 109, "P_MEAN_NORM_C"},
-      {OPERATOR_::TYPE_P_NORM_C, 112, "P_NORM_C"},
+    {OPERATOR_::TYPE_P_MEAN_NORM, 77, "P_MEAN_NORM"},
+    {OPERATOR_::TYPE_P_NORM, 80, "P_NORM"},
+    {OPERATOR_::TYPE_WEIGHTED_SUM, 87, "WEIGHTED_SUM"},
+    {OPERATOR_::TYPE_MAX, 88, "MAX"},
+    {OPERATOR_::TYPE_P_MEAN_NORM_C, 109, "P_MEAN_NORM_C"},
+    {OPERATOR_::TYPE_P_NORM_C, 112, "P_NORM_C"},
   });
 }
 
 TEST(Operator, NamesItsUpdateTypes)
 {
   ExpectEnumerators<OPERATOR_, OPERATOR_::Enum_UPDATE_TYPE_>({
-      {OPERATOR_::UPDATE_TYPE_CALCULATED, 67, "CALCULATED"},
-      {OPERATOR_::UPDATE_TYPE_RECEIVED, 82, "RECEIVED"},
+    {OPERATOR_::UPDATE_TYPE_CALCULATED, 67, "CALCULATED"},
+    {OPERATOR_::UPDATE_TYPE_RECEIVED, 82, "RECEIVED"},
   });
 }
 
@@ -253,29 +251,27 @@ TEST(Operator, PrintsItsDefaults)
   EXPECT_EQ(record.source, "LocalGenerated\\win_b64\\gyre_commands");
   EXPECT_EQ(record.line, 1809);
   EXPECT_EQ(record.prefix, "[%T|%n|%P|OrvelCommands|OPERATOR_] ");
-  EXPECT_EQ(record.text,
-            "m_ID_NAME_: \n"
-            "m_TYPE_: INVALID\n"
-            "m_UPDATE_TYPE_: INVALID\n"
-            "m_UPDATE_ID_: \n"
-            "m_UPDATE_INDEX_: 0\n"
-            "m_num_DRESP_: 0\n"
-            "m_DRESP_: [\n]\n"
-            "m_num_DRESP_WEIGHT_: 0\n"
-            "m_DRESP_WEIGHT_: [\n]\n"
-            "m_num_OPERATOR_: 0\n"
-            "m_OPERATOR_: [\n]\n"
-            "m_num_OPERATOR_WEIGHT_: 0\n"
-            "m_OPERATOR_WEIGHT_: [\n]\n"
-            "m_FACTOR_: 0\n");
+  EXPECT_EQ(record.text, "m_ID_NAME_: \n"
+                         "m_TYPE_: INVALID\n"
+                         "m_UPDATE_TYPE_: INVALID\n"
+                         "m_UPDATE_ID_: \n"
+                         "m_UPDATE_INDEX_: 0\n"
+                         "m_num_DRESP_: 0\n"
+                         "m_DRESP_: [\n]\n"
+                         "m_num_DRESP_WEIGHT_: 0\n"
+                         "m_DRESP_WEIGHT_: [\n]\n"
+                         "m_num_OPERATOR_: 0\n"
+                         "m_OPERATOR_: [\n]\n"
+                         "m_num_OPERATOR_WEIGHT_: 0\n"
+                         "m_OPERATOR_WEIGHT_: [\n]\n"
+                         "m_FACTOR_: 0\n");
 }
 
 TEST(Operator, PrintsAllItHoldsOnceItIsLinked)
 {
   LinkedJob job(StorageWithFullJob());
   const KLV_LogRecord record = LogRecordOf(job->GetOPERATOR_("sum"));
-  EXPECT_EQ(HeadOf(record),
-            "LocalGenerated\\win_b64\\gyre_commands:1809 [%T|%n|%P|OrvelCommands|OPERATOR_] ");
+  EXPECT_EQ(HeadOf(record), "LocalGenerated\\win_b64\\gyre_commands:1809 [%T|%n|%P|OrvelCommands|OPERATOR_] ");
   EXPECT_EQ(record.text, kFullText);
 }
 
@@ -283,21 +279,20 @@ TEST(Operator, PrintsTheTypeOfTheSmallLetterM)
 {
   RecordingStorage storage = StorageWithBareOperator();
   storage.Command("OPERATOR_", "bare")["TYPE_"] = {int{'m'}};
-  EXPECT_EQ(TextOf(LoadedAlone<OPERATOR_>(storage, "bare")),
-            "m_ID_NAME_: bare\n"
-            "m_TYPE_: P_MEAN_NORM_C\n"
-            "m_UPDATE_TYPE_: CALCULATED\n"
-            "m_UPDATE_ID_: none\n"
-            "m_UPDATE_INDEX_: 1\n"
-            "m_num_DRESP_: 0\n"
-            "m_DRESP_: [\n]\n"
-            "m_num_DRESP_WEIGHT_: 0\n"
-            "m_DRESP_WEIGHT_: [\n]\n"
-            "m_num_OPERATOR_: 0\n"
-            "m_OPERATOR_: [\n]\n"
-            "m_num_OPERATOR_WEIGHT_: 0\n"
-            "m_OPERATOR_WEIGHT_: [\n]\n"
-            "m_FACTOR_: 1\n");
+  EXPECT_EQ(TextOf(LoadedAlone<OPERATOR_>(storage, "bare")), "m_ID_NAME_: bare\n"
+                                                             "m_TYPE_: P_MEAN_NORM_C\n"
+                                                             "m_UPDATE_TYPE_: CALCULATED\n"
+                                                             "m_UPDATE_ID_: none\n"
+                                                             "m_UPDATE_INDEX_: 1\n"
+                                                             "m_num_DRESP_: 0\n"
+                                                             "m_DRESP_: [\n]\n"
+                                                             "m_num_DRESP_WEIGHT_: 0\n"
+                                                             "m_DRESP_WEIGHT_: [\n]\n"
+                                                             "m_num_OPERATOR_: 0\n"
+                                                             "m_OPERATOR_: [\n]\n"
+                                                             "m_num_OPERATOR_WEIGHT_: 0\n"
+                                                             "m_OPERATOR_WEIGHT_: [\n]\n"
+                                                             "m_FACTOR_: 1\n");
 }
 
 TEST(Operator, HasNothingToCheckInTheModel)
@@ -327,8 +322,7 @@ TEST(Operator, ReadsItsReferencesAfterAllItsValues)
   EXPECT_EQ(calls[11], "GetValue(OPERATOR_, sum, FACTOR_, 1, vtmDouble, double)");
   EXPECT_THAT(std::vector<std::string>(calls.begin() + 12, calls.end()),
               ElementsAre("GetNumElements(OPERATOR_, sum, DRESP_)", "GetReference(OPERATOR_, sum, DRESP_, 1)",
-                          "GetReference(OPERATOR_, sum, DRESP_, 2)",
-                          "GetNumElements(OPERATOR_, sum, OPERATOR_)",
+                          "GetReference(OPERATOR_, sum, DRESP_, 2)", "GetNumElements(OPERATOR_, sum, OPERATOR_)",
                           "GetReference(OPERATOR_, sum, OPERATOR_, 1)"));
 }
 
@@ -372,9 +366,8 @@ TEST(Operator, CannotBeLinkedToAResponseThatIsMissing)
   storage.Command("DRESP_", "drop");
   storage.Command("OPERATOR_", "swirl");
   Gyre_Parfile parfile(storage);
-  EXPECT_EQ(FailureOf([&] { parfile.Load(); }),
-            (Failure{"Invalid ID swirl of the parameter file command DRESP_", "161700240908",
-                     "[%T|%n|%P|OrvelCommands|Gyre_Parfile] "}));
+  EXPECT_EQ(FailureOf([&] { parfile.Load(); }), (Failure{"Invalid ID swirl of the parameter file command DRESP_",
+                                                         "161700240908", "[%T|%n|%P|OrvelCommands|Gyre_Parfile] "}));
 }
 
 TEST(Operator, CannotBeLinkedToAnOperatorThatIsMissing)
@@ -383,9 +376,8 @@ TEST(Operator, CannotBeLinkedToAnOperatorThatIsMissing)
   AddRequiredCommands(storage);
   storage.Command("OPERATOR_", "sum")["OPERATOR_"] = {Ref{"nobody"}};
   Gyre_Parfile parfile(storage);
-  EXPECT_EQ(FailureOf([&] { parfile.Load(); }),
-            (Failure{"Invalid ID nobody of the parameter file command OPERATOR_", "161700240908",
-                     "[%T|%n|%P|OrvelCommands|Gyre_Parfile] "}));
+  EXPECT_EQ(FailureOf([&] { parfile.Load(); }), (Failure{"Invalid ID nobody of the parameter file command OPERATOR_",
+                                                         "161700240908", "[%T|%n|%P|OrvelCommands|Gyre_Parfile] "}));
 }
 
 TEST(Operator, GivesLinkedCommandsByPlacesCountedFromOne)

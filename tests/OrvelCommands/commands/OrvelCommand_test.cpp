@@ -1,12 +1,12 @@
 #include "OrvelCommands/commands/gyre_commands.h"
 #include "OrvelCommands/parfile/Gyre_Parfile.h"
 #include "support/CapturedLog.h"
-#include "support/OpenDatabase.h"
-#include "support/RecordingStorage.h"
-#include "support/VirtualSlot.h"
 #include "support/command_checks.h"
 #include "support/failures.h"
+#include "support/OpenDatabase.h"
+#include "support/RecordingStorage.h"
 #include "support/required_commands.h"
+#include "support/VirtualSlot.h"
 
 #include <gmock/gmock.h>
 
@@ -102,8 +102,8 @@ TEST(OrvelCommand, TellsTheKindOfACommandOfAnyClass)
     types.push_back(command->GetType());
     EXPECT_EQ(command->GetID_NAME_(), "");
   }
-  EXPECT_THAT(types, ElementsAre("MODEL_", "ELEMENT_GROUP_", "FACE_GROUP_", "NODE_GROUP_", "DRESP_",
-                                 "OPERATOR_", "OBJ_FUNC_", "CONSTRAINT_"));
+  EXPECT_THAT(types, ElementsAre("MODEL_", "ELEMENT_GROUP_", "FACE_GROUP_", "NODE_GROUP_", "DRESP_", "OPERATOR_",
+                                 "OBJ_FUNC_", "CONSTRAINT_"));
 }
 
 TEST(OrvelCommand, TellsTheIdOfALoadedCommand)
@@ -278,8 +278,7 @@ TEST(OrvelCommand, CutsWhatIsPrintedAndNotWhatIsConverted)
   {
     percents += "%%";
   }
-  EXPECT_EQ(TextOfModelOf(percents),
-            "m_ID_NAME_: model\nm_FILE_: " + std::string(977, '%') + "\nm_has_SOLVER_: no\n");
+  EXPECT_EQ(TextOfModelOf(percents), "m_ID_NAME_: model\nm_FILE_: " + std::string(977, '%') + "\nm_has_SOLVER_: no\n");
   EXPECT_EQ(TextOfModelOf("%2000d"), "m_ID_NAME_: model\nm_FILE_: " + std::string(996, ' '));
 }
 
@@ -290,8 +289,7 @@ TEST(OrvelCommand, PrintsAPercentSignInAValueAsAConversionOfNothing)
   EXPECT_EQ(TextOfModelOf("a%sb%4sc"), "m_ID_NAME_: model\nm_FILE_: ab    c\nm_has_SOLVER_: no\n");
   EXPECT_EQ(TextOfModelOf("%f|%.1f"), "m_ID_NAME_: model\nm_FILE_: 0.000000|0.0\nm_has_SOLVER_: no\n");
   EXPECT_EQ(TextOfModelOf("a%nb"), "m_ID_NAME_: model\nm_FILE_: ab\nm_has_SOLVER_: no\n");
-  EXPECT_EQ(TextOfModelOf("filled 50% done"),
-            "m_ID_NAME_: model\nm_FILE_: filled 50 0one\nm_has_SOLVER_: no\n");
+  EXPECT_EQ(TextOfModelOf("filled 50% done"), "m_ID_NAME_: model\nm_FILE_: filled 50 0one\nm_has_SOLVER_: no\n");
 }
 
 TEST(OrvelCommand, PrintsAPercentSignAtTheEndOfAValueAsItIs)
@@ -308,16 +306,15 @@ TEST(OrvelCommand, PrintsAPercentSignInTheIdOfACommandReferredToAsAConversion)
   keys["DRESP_"] = {Ref{"drop%d"}};
   keys["FILTER_"] = {Ref{"fine%s"}};
   LinkedJob job(std::move(storage));
-  EXPECT_EQ(LogRecordOf(job->GetOBJ_FUNC_()).text,
-            "m_ID_NAME_: objective\n"
-            "m_has_DRESP_: yes\n"
-            "m_DRESP_: drop0\n"
-            "m_has_OPERATOR_: no\n"
-            "m_TARGET_: INVALID\n"
-            "m_SENSSCALING_TYPE_: INVALID\n"
-            "m_SENSSCALING_VALUE_: 0\n"
-            "m_num_FILTER_: 1\n"
-            "m_FILTER_: [\nfine ]\n");
+  EXPECT_EQ(LogRecordOf(job->GetOBJ_FUNC_()).text, "m_ID_NAME_: objective\n"
+                                                   "m_has_DRESP_: yes\n"
+                                                   "m_DRESP_: drop0\n"
+                                                   "m_has_OPERATOR_: no\n"
+                                                   "m_TARGET_: INVALID\n"
+                                                   "m_SENSSCALING_TYPE_: INVALID\n"
+                                                   "m_SENSSCALING_VALUE_: 0\n"
+                                                   "m_num_FILTER_: 1\n"
+                                                   "m_FILTER_: [\nfine ]\n");
 }
 
 TEST(OrvelCommand, PrintsAnEmptyIdForAReferenceThatWasNeverLinked)
@@ -334,16 +331,15 @@ TEST(OrvelCommand, PrintsAnEmptyIdForAReferenceWhoseTargetWasNotFound)
   Gyre_Parfile parfile(storage);
   EXPECT_THROW(parfile.Load(), KLV_Failure);
   EXPECT_TRUE(parfile.GetOBJ_FUNC_().HasDRESP_());
-  EXPECT_EQ(LogRecordOf(parfile.GetOBJ_FUNC_()).text,
-            "m_ID_NAME_: objective\n"
-            "m_has_DRESP_: yes\n"
-            "m_DRESP_: \n"
-            "m_has_OPERATOR_: no\n"
-            "m_TARGET_: INVALID\n"
-            "m_SENSSCALING_TYPE_: INVALID\n"
-            "m_SENSSCALING_VALUE_: 0\n"
-            "m_num_FILTER_: 0\n"
-            "m_FILTER_: [\n]\n");
+  EXPECT_EQ(LogRecordOf(parfile.GetOBJ_FUNC_()).text, "m_ID_NAME_: objective\n"
+                                                      "m_has_DRESP_: yes\n"
+                                                      "m_DRESP_: \n"
+                                                      "m_has_OPERATOR_: no\n"
+                                                      "m_TARGET_: INVALID\n"
+                                                      "m_SENSSCALING_TYPE_: INVALID\n"
+                                                      "m_SENSSCALING_VALUE_: 0\n"
+                                                      "m_num_FILTER_: 0\n"
+                                                      "m_FILTER_: [\n]\n");
 }
 
 TEST(OrvelCommand, MayShareItsIdWithACommandOfAnotherKind)

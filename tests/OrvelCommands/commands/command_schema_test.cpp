@@ -32,15 +32,15 @@ const char* NameOf(VtmType type)
 {
   switch (type)
   {
-  case vtmInteger: return "int";
-  case vtmDouble: return "double";
-  case vtmEnum: return "enum";
-  case vtmString: return "string";
-  case vtmReference: return "reference";
-  case vtmIntegerList: return "int list";
-  case vtmDoubleList: return "double list";
-  case vtmModelId: return "model id";
-  default: return "no value";
+    case vtmInteger: return "int";
+    case vtmDouble: return "double";
+    case vtmEnum: return "enum";
+    case vtmString: return "string";
+    case vtmReference: return "reference";
+    case vtmIntegerList: return "int list";
+    case vtmDoubleList: return "double list";
+    case vtmModelId: return "model id";
+    default: return "no value";
   }
 }
 
@@ -48,9 +48,9 @@ const char* NameOf(Presence presence)
 {
   switch (presence)
   {
-  case Presence::Always: return "always";
-  case Presence::Optional: return "optional";
-  case Presence::Repeated: return "repeated";
+    case Presence::Always: return "always";
+    case Presence::Optional: return "optional";
+    case Presence::Repeated: return "repeated";
   }
   return "no presence";
 }

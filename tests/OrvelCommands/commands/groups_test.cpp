@@ -1,9 +1,9 @@
 #include "OrvelCommands/commands/gyre_commands.h"
 #include "support/CapturedLog.h"
-#include "support/OpenDatabase.h"
-#include "support/RecordingStorage.h"
 #include "support/command_checks.h"
 #include "support/failures.h"
+#include "support/OpenDatabase.h"
+#include "support/RecordingStorage.h"
 
 #include <gmock/gmock.h>
 
@@ -66,18 +66,17 @@ struct NameOfGroup
   }
 };
 
-const char* const kFullText =
-    "m_ID_NAME_: walls\n"
-    "m_has_LIST_: yes\n"
-    "m_LIST_: [\n3 -1 20]\n"
-    "m_num_MERGE_: 2\n"
-    "m_MERGE_: [\ninlet outlet]\n"
-    "m_num_INTERSECT_: 1\n"
-    "m_INTERSECT_: [\nduct]\n"
-    "m_num_XOR_: 2\n"
-    "m_XOR_: [\nleft right]\n"
-    "m_num_SUBTRACT_: 3\n"
-    "m_SUBTRACT_: [\nfillet hole fillet]\n";
+const char* const kFullText = "m_ID_NAME_: walls\n"
+                              "m_has_LIST_: yes\n"
+                              "m_LIST_: [\n3 -1 20]\n"
+                              "m_num_MERGE_: 2\n"
+                              "m_MERGE_: [\ninlet outlet]\n"
+                              "m_num_INTERSECT_: 1\n"
+                              "m_INTERSECT_: [\nduct]\n"
+                              "m_num_XOR_: 2\n"
+                              "m_XOR_: [\nleft right]\n"
+                              "m_num_SUBTRACT_: 3\n"
+                              "m_SUBTRACT_: [\nfillet hole fillet]\n";
 
 void AddFullGroup(RecordingStorage& storage, const char* kind, const char* id)
 {
@@ -172,20 +171,17 @@ TYPED_TEST(Group, LoadsItsKeysInOrder)
   const RecordingStorage storage = StorageWithFullGroup(TypeParam::kKind);
   LoadedAlone<typename TypeParam::Command>(storage, "walls");
   const std::string walls = TypeParam::kKind + std::string(", walls, ");
-  EXPECT_THAT(storage.Calls(), ElementsAre("HasElement(" + walls + "LIST_)",
-                                           "GetValue(" + walls + "LIST_, 1, vtmIntegerList, vector<int>)",
-                                           "GetNumElements(" + walls + "MERGE_)",
-                                           "GetValue(" + walls + "MERGE_, 1, vtmModelId, string)",
-                                           "GetValue(" + walls + "MERGE_, 2, vtmModelId, string)",
-                                           "GetNumElements(" + walls + "INTERSECT_)",
-                                           "GetValue(" + walls + "INTERSECT_, 1, vtmModelId, string)",
-                                           "GetNumElements(" + walls + "XOR_)",
-                                           "GetValue(" + walls + "XOR_, 1, vtmModelId, string)",
-                                           "GetValue(" + walls + "XOR_, 2, vtmModelId, string)",
-                                           "GetNumElements(" + walls + "SUBTRACT_)",
-                                           "GetValue(" + walls + "SUBTRACT_, 1, vtmModelId, string)",
-                                           "GetValue(" + walls + "SUBTRACT_, 2, vtmModelId, string)",
-                                           "GetValue(" + walls + "SUBTRACT_, 3, vtmModelId, string)"));
+  EXPECT_THAT(
+    storage.Calls(),
+    ElementsAre("HasElement(" + walls + "LIST_)", "GetValue(" + walls + "LIST_, 1, vtmIntegerList, vector<int>)",
+                "GetNumElements(" + walls + "MERGE_)", "GetValue(" + walls + "MERGE_, 1, vtmModelId, string)",
+                "GetValue(" + walls + "MERGE_, 2, vtmModelId, string)", "GetNumElements(" + walls + "INTERSECT_)",
+                "GetValue(" + walls + "INTERSECT_, 1, vtmModelId, string)", "GetNumElements(" + walls + "XOR_)",
+                "GetValue(" + walls + "XOR_, 1, vtmModelId, string)",
+                "GetValue(" + walls + "XOR_, 2, vtmModelId, string)", "GetNumElements(" + walls + "SUBTRACT_)",
+                "GetValue(" + walls + "SUBTRACT_, 1, vtmModelId, string)",
+                "GetValue(" + walls + "SUBTRACT_, 2, vtmModelId, string)",
+                "GetValue(" + walls + "SUBTRACT_, 3, vtmModelId, string)"));
 }
 
 TYPED_TEST(Group, OnlyAsksForKeysThatAreAbsent)
@@ -193,10 +189,9 @@ TYPED_TEST(Group, OnlyAsksForKeysThatAreAbsent)
   const RecordingStorage storage = StorageWithBareGroup(TypeParam::kKind);
   LoadedAlone<typename TypeParam::Command>(storage, "bare");
   const std::string bare = TypeParam::kKind + std::string(", bare, ");
-  EXPECT_THAT(storage.Calls(),
-              ElementsAre("HasElement(" + bare + "LIST_)", "GetNumElements(" + bare + "MERGE_)",
-                          "GetNumElements(" + bare + "INTERSECT_)", "GetNumElements(" + bare + "XOR_)",
-                          "GetNumElements(" + bare + "SUBTRACT_)"));
+  EXPECT_THAT(storage.Calls(), ElementsAre("HasElement(" + bare + "LIST_)", "GetNumElements(" + bare + "MERGE_)",
+                                           "GetNumElements(" + bare + "INTERSECT_)", "GetNumElements(" + bare + "XOR_)",
+                                           "GetNumElements(" + bare + "SUBTRACT_)"));
 }
 
 TYPED_TEST(Group, GivesWhatItLoaded)
@@ -238,17 +233,16 @@ TYPED_TEST(Group, LoadsWithoutAnyKeyAndPrintsEmptyNameListsButNoList)
   EXPECT_EQ(command.NumINTERSECT_(), 0U);
   EXPECT_EQ(command.NumXOR_(), 0U);
   EXPECT_EQ(command.NumSUBTRACT_(), 0U);
-  EXPECT_EQ(this->TextOf(command),
-            "m_ID_NAME_: bare\n"
-            "m_has_LIST_: no\n"
-            "m_num_MERGE_: 0\n"
-            "m_MERGE_: [\n]\n"
-            "m_num_INTERSECT_: 0\n"
-            "m_INTERSECT_: [\n]\n"
-            "m_num_XOR_: 0\n"
-            "m_XOR_: [\n]\n"
-            "m_num_SUBTRACT_: 0\n"
-            "m_SUBTRACT_: [\n]\n");
+  EXPECT_EQ(this->TextOf(command), "m_ID_NAME_: bare\n"
+                                   "m_has_LIST_: no\n"
+                                   "m_num_MERGE_: 0\n"
+                                   "m_MERGE_: [\n]\n"
+                                   "m_num_INTERSECT_: 0\n"
+                                   "m_INTERSECT_: [\n]\n"
+                                   "m_num_XOR_: 0\n"
+                                   "m_XOR_: [\n]\n"
+                                   "m_num_SUBTRACT_: 0\n"
+                                   "m_SUBTRACT_: [\n]\n");
 }
 
 TYPED_TEST(Group, TellsAnEmptyListFromAnAbsentOne)
@@ -258,18 +252,17 @@ TYPED_TEST(Group, TellsAnEmptyListFromAnAbsentOne)
   const auto command = LoadedAlone<typename TypeParam::Command>(storage, "walls");
   EXPECT_TRUE(command.HasLIST_());
   EXPECT_THAT(command.GetLIST_(), IsEmpty());
-  EXPECT_EQ(this->TextOf(command),
-            "m_ID_NAME_: walls\n"
-            "m_has_LIST_: yes\n"
-            "m_LIST_: [\n]\n"
-            "m_num_MERGE_: 0\n"
-            "m_MERGE_: [\n]\n"
-            "m_num_INTERSECT_: 0\n"
-            "m_INTERSECT_: [\n]\n"
-            "m_num_XOR_: 0\n"
-            "m_XOR_: [\n]\n"
-            "m_num_SUBTRACT_: 0\n"
-            "m_SUBTRACT_: [\n]\n");
+  EXPECT_EQ(this->TextOf(command), "m_ID_NAME_: walls\n"
+                                   "m_has_LIST_: yes\n"
+                                   "m_LIST_: [\n]\n"
+                                   "m_num_MERGE_: 0\n"
+                                   "m_MERGE_: [\n]\n"
+                                   "m_num_INTERSECT_: 0\n"
+                                   "m_INTERSECT_: [\n]\n"
+                                   "m_num_XOR_: 0\n"
+                                   "m_XOR_: [\n]\n"
+                                   "m_num_SUBTRACT_: 0\n"
+                                   "m_SUBTRACT_: [\n]\n");
 }
 
 TYPED_TEST(Group, PrintsItsDefaults)
@@ -278,17 +271,16 @@ TYPED_TEST(Group, PrintsItsDefaults)
   EXPECT_EQ(record.source, "LocalGenerated\\win_b64\\gyre_commands");
   EXPECT_EQ(record.line, TypeParam::kLine);
   EXPECT_EQ(record.prefix, TypeParam::kPrefix);
-  EXPECT_EQ(record.text,
-            "m_ID_NAME_: \n"
-            "m_has_LIST_: no\n"
-            "m_num_MERGE_: 0\n"
-            "m_MERGE_: [\n]\n"
-            "m_num_INTERSECT_: 0\n"
-            "m_INTERSECT_: [\n]\n"
-            "m_num_XOR_: 0\n"
-            "m_XOR_: [\n]\n"
-            "m_num_SUBTRACT_: 0\n"
-            "m_SUBTRACT_: [\n]\n");
+  EXPECT_EQ(record.text, "m_ID_NAME_: \n"
+                         "m_has_LIST_: no\n"
+                         "m_num_MERGE_: 0\n"
+                         "m_MERGE_: [\n]\n"
+                         "m_num_INTERSECT_: 0\n"
+                         "m_INTERSECT_: [\n]\n"
+                         "m_num_XOR_: 0\n"
+                         "m_XOR_: [\n]\n"
+                         "m_num_SUBTRACT_: 0\n"
+                         "m_SUBTRACT_: [\n]\n");
 }
 
 TYPED_TEST(Group, PrintsAllItHolds)
@@ -309,10 +301,8 @@ TYPED_TEST(Group, ReportsEveryUnknownNameInTheOrderOfKeysAndThenOfPlaces)
   EXPECT_THAT(ProblemsIn(command, storage, "walls"),
               ElementsAre(Problem{"inlet", "MERGE", "walls", name}, Problem{"outlet", "MERGE", "walls", name},
                           Problem{"duct", "INTERSECT", "walls", name}, Problem{"left", "XOR", "walls", name},
-                          Problem{"right", "XOR", "walls", name},
-                          Problem{"fillet", "SUBTRACT", "walls", name},
-                          Problem{"hole", "SUBTRACT", "walls", name},
-                          Problem{"fillet", "SUBTRACT", "walls", name}));
+                          Problem{"right", "XOR", "walls", name}, Problem{"fillet", "SUBTRACT", "walls", name},
+                          Problem{"hole", "SUBTRACT", "walls", name}, Problem{"fillet", "SUBTRACT", "walls", name}));
 }
 
 TYPED_TEST(Group, SaysWhichNameIsUnknownAndWhere)
@@ -324,7 +314,8 @@ TYPED_TEST(Group, SaysWhichNameIsUnknownAndWhere)
   EXPECT_THAT(MessagesIn(command, storage, "walls"),
               ElementsAre("Referenced ID is not found\n"
                           "  Value \"left\" of parameter \"XOR\" is erroneous\n"
-                          "  In \"" + std::string(TypeParam::kName) + "\" command with ID_NAME \"walls\""));
+                          "  In \"" +
+                          std::string(TypeParam::kName) + "\" command with ID_NAME \"walls\""));
 }
 
 TYPED_TEST(Group, ReportsANameThatIsRepeatedInAListOncePerOccurrence)
@@ -391,8 +382,7 @@ TYPED_TEST(Group, TrustsTheModelAndNotTheGroupsOfTheParameterFile)
   auto command = LoadedAlone<typename TypeParam::Command>(storage, "outer");
   OpenDatabase database;
   database.Add(this->OwnKind(), {"of_the_model"});
-  EXPECT_THAT(ProblemsIn(command, storage, "outer"),
-              ElementsAre(Problem{"inner", "MERGE", "outer", TypeParam::kName}));
+  EXPECT_THAT(ProblemsIn(command, storage, "outer"), ElementsAre(Problem{"inner", "MERGE", "outer", TypeParam::kName}));
 }
 
 TYPED_TEST(Group, ReadsTheNamesAgainUnderTheStoragesIdAndReportsItsOwnId)
@@ -408,12 +398,9 @@ TYPED_TEST(Group, ReadsTheNamesAgainUnderTheStoragesIdAndReportsItsOwnId)
   database.Add(this->OwnKind(), {"inlet", "outlet", "duct", "left", "right", "fillet", "hole", "third"});
   const std::string name = TypeParam::kName;
   EXPECT_THAT(ProblemsIn(command, storage, "renamed"),
-              ElementsAre(Problem{"new inlet", "MERGE", "walls", name},
-                          Problem{"new outlet", "MERGE", "walls", name},
-                          Problem{"new duct", "INTERSECT", "walls", name},
-                          Problem{"new left", "XOR", "walls", name},
-                          Problem{"new right", "XOR", "walls", name},
-                          Problem{"new fillet", "SUBTRACT", "walls", name},
+              ElementsAre(Problem{"new inlet", "MERGE", "walls", name}, Problem{"new outlet", "MERGE", "walls", name},
+                          Problem{"new duct", "INTERSECT", "walls", name}, Problem{"new left", "XOR", "walls", name},
+                          Problem{"new right", "XOR", "walls", name}, Problem{"new fillet", "SUBTRACT", "walls", name},
                           Problem{"new hole", "SUBTRACT", "walls", name}));
   const std::string renamed = TypeParam::kKind + std::string(", renamed, ");
   EXPECT_THAT(storage.Calls(), ElementsAre("GetValue(" + renamed + "MERGE_, 1, vtmModelId, string)",
@@ -493,8 +480,7 @@ TYPED_TEST(Group, StaysAsItLoadedWhenTheJobIsLinked)
   EXPECT_EQ(this->TextOf(TypeParam::In(job, "walls")), kFullText);
   const auto calls = job.CallsAbout(TypeParam::kKind, "walls");
   EXPECT_EQ(calls.size(), 14U);
-  EXPECT_EQ(calls.back(),
-            "GetValue(" + std::string(TypeParam::kKind) + ", walls, SUBTRACT_, 3, vtmModelId, string)");
+  EXPECT_EQ(calls.back(), "GetValue(" + std::string(TypeParam::kKind) + ", walls, SUBTRACT_, 3, vtmModelId, string)");
 }
 
 TYPED_TEST(Group, AppendsTheNamesOfASecondLoadAndCountsThoseOfTheLast)

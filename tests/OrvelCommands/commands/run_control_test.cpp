@@ -1,10 +1,10 @@
 #include "OrvelCommands/commands/gyre_commands.h"
 #include "OrvelCommands/parfile/Gyre_Parfile.h"
-#include "support/CapturedLog.h"
-#include "support/RecordingStorage.h"
 #include "support/accessor_types.h"
+#include "support/CapturedLog.h"
 #include "support/command_checks.h"
 #include "support/failures.h"
+#include "support/RecordingStorage.h"
 
 #include <gmock/gmock.h>
 
@@ -61,13 +61,12 @@ OPT_PARAM_ FullOptParam()
   return LoadedAlone<OPT_PARAM_>(StorageWithFullOptParam(), "general");
 }
 
-const char* const kFullOptParamText =
-  "m_ID_NAME_: general\n"
-  "m_has_STORE_INT_: yes\n"
-  "m_STORE_INT_: [\n5 -10 15]\n"
-  "m_OPT_START_: 7\n"
-  "m_has_SRC_SCALE_: yes\n"
-  "m_SRC_SCALE_: 0.25\n";
+const char* const kFullOptParamText = "m_ID_NAME_: general\n"
+                                      "m_has_STORE_INT_: yes\n"
+                                      "m_STORE_INT_: [\n5 -10 15]\n"
+                                      "m_OPT_START_: 7\n"
+                                      "m_has_SRC_SCALE_: yes\n"
+                                      "m_SRC_SCALE_: 0.25\n";
 
 void ExpectDefaults(const OPT_PARAM_& command)
 {
@@ -105,12 +104,11 @@ STOP_ FullStop()
   return LoadedAlone<STOP_>(StorageWithStop("limits"), "limits");
 }
 
-const char* const kFullStopText =
-  "m_ID_NAME_: limits\n"
-  "m_ITER_MAX_: 100\n"
-  "m_ITER_MIN_: 20\n"
-  "m_RESIDUAL_OBJ_: 0.001\n"
-  "m_RESIDUAL_DV_: 0.002\n";
+const char* const kFullStopText = "m_ID_NAME_: limits\n"
+                                  "m_ITER_MAX_: 100\n"
+                                  "m_ITER_MIN_: 20\n"
+                                  "m_RESIDUAL_OBJ_: 0.001\n"
+                                  "m_RESIDUAL_DV_: 0.002\n";
 
 void ExpectDefaults(const STOP_& command)
 {
@@ -168,18 +166,17 @@ std::vector<int> SwitchesOf(const PRE_PARAM_& command)
           command.GetPTRACK_KEEP_INVALID_(), command.GetPTRACK_VRML_ADD_BOUNDS_()};
 }
 
-const char* const kFullPreParamText =
-  "m_ID_NAME_: flow\n"
-  "m_PATCH_ID_: inlet\n"
-  "m_VISCOSITY_: 0.015\n"
-  "m_RESIDUAL_: 0.0625\n"
-  "m_ITER_MAX_: 300\n"
-  "m_BACKFLOW_ANGLE_: 85\n"
-  "m_PTRACK_PRI_VRML_: YES\n"
-  "m_PTRACK_VAL_VRML_: NO\n"
-  "m_REF_VRML_: YES\n"
-  "m_PTRACK_KEEP_INVALID_: NO\n"
-  "m_PTRACK_VRML_ADD_BOUNDS_: YES\n";
+const char* const kFullPreParamText = "m_ID_NAME_: flow\n"
+                                      "m_PATCH_ID_: inlet\n"
+                                      "m_VISCOSITY_: 0.015\n"
+                                      "m_RESIDUAL_: 0.0625\n"
+                                      "m_ITER_MAX_: 300\n"
+                                      "m_BACKFLOW_ANGLE_: 85\n"
+                                      "m_PTRACK_PRI_VRML_: YES\n"
+                                      "m_PTRACK_VAL_VRML_: NO\n"
+                                      "m_REF_VRML_: YES\n"
+                                      "m_PTRACK_KEEP_INVALID_: NO\n"
+                                      "m_PTRACK_VRML_ADD_BOUNDS_: YES\n";
 
 void ExpectDefaults(const PRE_PARAM_& command)
 {
@@ -230,12 +227,11 @@ TEST(OptParam, LoadsItsKeysInOrderAndItsListInOnePiece)
 {
   const RecordingStorage storage = StorageWithFullOptParam();
   LoadedAlone<OPT_PARAM_>(storage, "general");
-  EXPECT_THAT(storage.Calls(),
-              ElementsAre("HasElement(OPT_PARAM_, general, STORE_INT_)",
-                          "GetValue(OPT_PARAM_, general, STORE_INT_, 1, vtmIntegerList, vector<int>)",
-                          "GetValue(OPT_PARAM_, general, OPT_START_, 1, vtmInteger, int)",
-                          "HasElement(OPT_PARAM_, general, SRC_SCALE_)",
-                          "GetValue(OPT_PARAM_, general, SRC_SCALE_, 1, vtmDouble, double)"));
+  EXPECT_THAT(storage.Calls(), ElementsAre("HasElement(OPT_PARAM_, general, STORE_INT_)",
+                                           "GetValue(OPT_PARAM_, general, STORE_INT_, 1, vtmIntegerList, vector<int>)",
+                                           "GetValue(OPT_PARAM_, general, OPT_START_, 1, vtmInteger, int)",
+                                           "HasElement(OPT_PARAM_, general, SRC_SCALE_)",
+                                           "GetValue(OPT_PARAM_, general, SRC_SCALE_, 1, vtmDouble, double)"));
 }
 
 TEST(OptParam, DoesNotReadOptionalKeysThatAreAbsent)
@@ -256,11 +252,10 @@ TEST(OptParam, PrintsNoForAnAbsentListAndNoListAtAll)
 {
   const OPT_PARAM_ command = LoadedAlone<OPT_PARAM_>(StorageWithSparseOptParam("bare"), "bare");
   EXPECT_FALSE(command.HasSTORE_INT_());
-  EXPECT_EQ(LogRecordOf(command).text,
-            "m_ID_NAME_: bare\n"
-            "m_has_STORE_INT_: no\n"
-            "m_OPT_START_: 7\n"
-            "m_has_SRC_SCALE_: no\n");
+  EXPECT_EQ(LogRecordOf(command).text, "m_ID_NAME_: bare\n"
+                                       "m_has_STORE_INT_: no\n"
+                                       "m_OPT_START_: 7\n"
+                                       "m_has_SRC_SCALE_: no\n");
 }
 
 TEST(OptParam, TellsAnEmptyListFromAnAbsentOne)
@@ -270,8 +265,7 @@ TEST(OptParam, TellsAnEmptyListFromAnAbsentOne)
   const OPT_PARAM_ command = LoadedAlone<OPT_PARAM_>(storage, "general");
   EXPECT_TRUE(command.HasSTORE_INT_());
   EXPECT_THAT(command.GetSTORE_INT_(), IsEmpty());
-  EXPECT_THAT(LogRecordOf(command).text,
-              HasSubstr("m_has_STORE_INT_: yes\nm_STORE_INT_: [\n]\nm_OPT_START_: 7\n"));
+  EXPECT_THAT(LogRecordOf(command).text, HasSubstr("m_has_STORE_INT_: yes\nm_STORE_INT_: [\n]\nm_OPT_START_: 7\n"));
 }
 
 TEST(OptParam, ReadsTheFirstOfSeveralLists)
@@ -332,8 +326,7 @@ TEST(OptParam, PrintsAllItHoldsWithoutACountForItsList)
 {
   LinkedJob job(StorageWithFullOptParam());
   const KLV_LogRecord record = LogRecordOf(job->GetOPT_PARAM_("general"));
-  EXPECT_EQ(HeadOf(record),
-            "LocalGenerated\\win_b64\\gyre_commands:3628 [%T|%n|%P|OrvelCommands|OPT_PARAM_] ");
+  EXPECT_EQ(HeadOf(record), "LocalGenerated\\win_b64\\gyre_commands:3628 [%T|%n|%P|OrvelCommands|OPT_PARAM_] ");
   EXPECT_EQ(record.text, kFullOptParamText);
 }
 
@@ -446,12 +439,11 @@ TEST(Stop, PrintsItsDefaults)
   EXPECT_EQ(record.source, "LocalGenerated\\win_b64\\gyre_commands");
   EXPECT_EQ(record.line, 3711);
   EXPECT_EQ(record.prefix, "[%T|%n|%P|OrvelCommands|STOP_] ");
-  EXPECT_EQ(record.text,
-            "m_ID_NAME_: \n"
-            "m_ITER_MAX_: 0\n"
-            "m_ITER_MIN_: 0\n"
-            "m_RESIDUAL_OBJ_: 0\n"
-            "m_RESIDUAL_DV_: 0\n");
+  EXPECT_EQ(record.text, "m_ID_NAME_: \n"
+                         "m_ITER_MAX_: 0\n"
+                         "m_ITER_MIN_: 0\n"
+                         "m_RESIDUAL_OBJ_: 0\n"
+                         "m_RESIDUAL_DV_: 0\n");
 }
 
 TEST(Stop, PrintsAllItHoldsAsPartOfAJob)
@@ -551,17 +543,16 @@ TEST(PreParam, LoadsItsKeysInOrder)
 {
   const RecordingStorage storage = StorageWithPreParam();
   LoadedAlone<PRE_PARAM_>(storage, "flow");
-  EXPECT_THAT(storage.Calls(),
-              ElementsAre("GetValue(PRE_PARAM_, flow, PATCH_ID_, 1, vtmString, string)",
-                          "GetValue(PRE_PARAM_, flow, VISCOSITY_, 1, vtmDouble, double)",
-                          "GetValue(PRE_PARAM_, flow, RESIDUAL_, 1, vtmDouble, double)",
-                          "GetValue(PRE_PARAM_, flow, ITER_MAX_, 1, vtmInteger, int)",
-                          "GetValue(PRE_PARAM_, flow, BACKFLOW_ANGLE_, 1, vtmInteger, int)",
-                          "GetEnumValue(PRE_PARAM_, flow, PTRACK_PRI_VRML_, 1, vtmEnum)",
-                          "GetEnumValue(PRE_PARAM_, flow, PTRACK_VAL_VRML_, 1, vtmEnum)",
-                          "GetEnumValue(PRE_PARAM_, flow, REF_VRML_, 1, vtmEnum)",
-                          "GetEnumValue(PRE_PARAM_, flow, PTRACK_KEEP_INVALID_, 1, vtmEnum)",
-                          "GetEnumValue(PRE_PARAM_, flow, PTRACK_VRML_ADD_BOUNDS_, 1, vtmEnum)"));
+  EXPECT_THAT(storage.Calls(), ElementsAre("GetValue(PRE_PARAM_, flow, PATCH_ID_, 1, vtmString, string)",
+                                           "GetValue(PRE_PARAM_, flow, VISCOSITY_, 1, vtmDouble, double)",
+                                           "GetValue(PRE_PARAM_, flow, RESIDUAL_, 1, vtmDouble, double)",
+                                           "GetValue(PRE_PARAM_, flow, ITER_MAX_, 1, vtmInteger, int)",
+                                           "GetValue(PRE_PARAM_, flow, BACKFLOW_ANGLE_, 1, vtmInteger, int)",
+                                           "GetEnumValue(PRE_PARAM_, flow, PTRACK_PRI_VRML_, 1, vtmEnum)",
+                                           "GetEnumValue(PRE_PARAM_, flow, PTRACK_VAL_VRML_, 1, vtmEnum)",
+                                           "GetEnumValue(PRE_PARAM_, flow, REF_VRML_, 1, vtmEnum)",
+                                           "GetEnumValue(PRE_PARAM_, flow, PTRACK_KEEP_INVALID_, 1, vtmEnum)",
+                                           "GetEnumValue(PRE_PARAM_, flow, PTRACK_VRML_ADD_BOUNDS_, 1, vtmEnum)"));
 }
 
 TEST(PreParam, AsksForTheSameKeysWhereAllAreAbsentAndKeepsItsDefaults)
@@ -569,17 +560,16 @@ TEST(PreParam, AsksForTheSameKeysWhereAllAreAbsentAndKeepsItsDefaults)
   RecordingStorage storage;
   storage.KeepOutputsOfAbsentKeys();
   ExpectDefaults(LoadedAlone<PRE_PARAM_>(storage, ""));
-  EXPECT_THAT(storage.Calls(),
-              ElementsAre("GetValue(PRE_PARAM_, , PATCH_ID_, 1, vtmString, string)",
-                          "GetValue(PRE_PARAM_, , VISCOSITY_, 1, vtmDouble, double)",
-                          "GetValue(PRE_PARAM_, , RESIDUAL_, 1, vtmDouble, double)",
-                          "GetValue(PRE_PARAM_, , ITER_MAX_, 1, vtmInteger, int)",
-                          "GetValue(PRE_PARAM_, , BACKFLOW_ANGLE_, 1, vtmInteger, int)",
-                          "GetEnumValue(PRE_PARAM_, , PTRACK_PRI_VRML_, 1, vtmEnum)",
-                          "GetEnumValue(PRE_PARAM_, , PTRACK_VAL_VRML_, 1, vtmEnum)",
-                          "GetEnumValue(PRE_PARAM_, , REF_VRML_, 1, vtmEnum)",
-                          "GetEnumValue(PRE_PARAM_, , PTRACK_KEEP_INVALID_, 1, vtmEnum)",
-                          "GetEnumValue(PRE_PARAM_, , PTRACK_VRML_ADD_BOUNDS_, 1, vtmEnum)"));
+  EXPECT_THAT(storage.Calls(), ElementsAre("GetValue(PRE_PARAM_, , PATCH_ID_, 1, vtmString, string)",
+                                           "GetValue(PRE_PARAM_, , VISCOSITY_, 1, vtmDouble, double)",
+                                           "GetValue(PRE_PARAM_, , RESIDUAL_, 1, vtmDouble, double)",
+                                           "GetValue(PRE_PARAM_, , ITER_MAX_, 1, vtmInteger, int)",
+                                           "GetValue(PRE_PARAM_, , BACKFLOW_ANGLE_, 1, vtmInteger, int)",
+                                           "GetEnumValue(PRE_PARAM_, , PTRACK_PRI_VRML_, 1, vtmEnum)",
+                                           "GetEnumValue(PRE_PARAM_, , PTRACK_VAL_VRML_, 1, vtmEnum)",
+                                           "GetEnumValue(PRE_PARAM_, , REF_VRML_, 1, vtmEnum)",
+                                           "GetEnumValue(PRE_PARAM_, , PTRACK_KEEP_INVALID_, 1, vtmEnum)",
+                                           "GetEnumValue(PRE_PARAM_, , PTRACK_VRML_ADD_BOUNDS_, 1, vtmEnum)"));
 }
 
 TEST(PreParam, GivesWhatItLoaded)
@@ -599,8 +589,7 @@ TEST(PreParam, KeepsItsFiveSwitchesApart)
 TEST(PreParam, PrintsItsFiveSwitchesApart)
 {
   const auto text_with = [](const char* key) { return LogRecordOf(PreParamWithSwitch(key, 70)).text; };
-  EXPECT_THAT(text_with("PTRACK_PRI_VRML_"),
-              HasSubstr("m_PTRACK_PRI_VRML_: NO\nm_PTRACK_VAL_VRML_: INVALID\n"));
+  EXPECT_THAT(text_with("PTRACK_PRI_VRML_"), HasSubstr("m_PTRACK_PRI_VRML_: NO\nm_PTRACK_VAL_VRML_: INVALID\n"));
   EXPECT_THAT(text_with("PTRACK_VAL_VRML_"), HasSubstr("m_PTRACK_VAL_VRML_: NO\nm_REF_VRML_: INVALID\n"));
   EXPECT_THAT(text_with("REF_VRML_"), HasSubstr("m_REF_VRML_: NO\nm_PTRACK_KEEP_INVALID_: INVALID\n"));
   EXPECT_THAT(text_with("PTRACK_KEEP_INVALID_"),
@@ -654,26 +643,24 @@ TEST(PreParam, PrintsItsDefaults)
   EXPECT_EQ(record.source, "LocalGenerated\\win_b64\\gyre_commands");
   EXPECT_EQ(record.line, 4570);
   EXPECT_EQ(record.prefix, "[%T|%n|%P|OrvelCommands|PRE_PARAM_] ");
-  EXPECT_EQ(record.text,
-            "m_ID_NAME_: \n"
-            "m_PATCH_ID_: \n"
-            "m_VISCOSITY_: 0\n"
-            "m_RESIDUAL_: 0\n"
-            "m_ITER_MAX_: 0\n"
-            "m_BACKFLOW_ANGLE_: 0\n"
-            "m_PTRACK_PRI_VRML_: INVALID\n"
-            "m_PTRACK_VAL_VRML_: INVALID\n"
-            "m_REF_VRML_: INVALID\n"
-            "m_PTRACK_KEEP_INVALID_: INVALID\n"
-            "m_PTRACK_VRML_ADD_BOUNDS_: INVALID\n");
+  EXPECT_EQ(record.text, "m_ID_NAME_: \n"
+                         "m_PATCH_ID_: \n"
+                         "m_VISCOSITY_: 0\n"
+                         "m_RESIDUAL_: 0\n"
+                         "m_ITER_MAX_: 0\n"
+                         "m_BACKFLOW_ANGLE_: 0\n"
+                         "m_PTRACK_PRI_VRML_: INVALID\n"
+                         "m_PTRACK_VAL_VRML_: INVALID\n"
+                         "m_REF_VRML_: INVALID\n"
+                         "m_PTRACK_KEEP_INVALID_: INVALID\n"
+                         "m_PTRACK_VRML_ADD_BOUNDS_: INVALID\n");
 }
 
 TEST(PreParam, PrintsAllItHoldsAsPartOfAJob)
 {
   LinkedJob job(StorageWithPreParam());
   const KLV_LogRecord record = LogRecordOf(job->GetPRE_PARAM_("flow"));
-  EXPECT_EQ(HeadOf(record),
-            "LocalGenerated\\win_b64\\gyre_commands:4570 [%T|%n|%P|OrvelCommands|PRE_PARAM_] ");
+  EXPECT_EQ(HeadOf(record), "LocalGenerated\\win_b64\\gyre_commands:4570 [%T|%n|%P|OrvelCommands|PRE_PARAM_] ");
   EXPECT_EQ(record.text, kFullPreParamText);
 }
 

@@ -32,10 +32,10 @@ private:
   {
     switch (Below(4))
     {
-    case 0: return NextConversion();
-    case 1: return std::string(1, static_cast<char>(Below(256)));
-    case 2: return std::string(1, Pick("%%%-+ #0'*.123456789hlLqjztI64Idiuoxscpnfgea\"\n"));
-    default: return "m_ID_NAME_: ";
+      case 0: return NextConversion();
+      case 1: return std::string(1, static_cast<char>(Below(256)));
+      case 2: return std::string(1, Pick("%%%-+ #0'*.123456789hlLqjztI64Idiuoxscpnfgea\"\n"));
+      default: return "m_ID_NAME_: ";
     }
   }
 
@@ -64,11 +64,11 @@ private:
   {
     switch (Below(5))
     {
-    case 0: return "*";
-    case 1: return std::to_string(Below(40));
-    case 2: return std::to_string(Below(3000));
-    case 3: return std::to_string(m_engine());  // up to twenty digits
-    default: return "";
+      case 0: return "*";
+      case 1: return std::to_string(Below(40));
+      case 2: return std::to_string(Below(3000));
+      case 3: return std::to_string(m_engine());  // up to twenty digits
+      default: return "";
     }
   }
 

@@ -47,14 +47,45 @@ TEST(ParfileConstants, NameTheKindsOfParsedCommandByNumber)
 
 TEST(ParfileConstants, NameTheKindsOfItemByNumber)
 {
-  const char* const expected[] = {
-    "ID_NAME",     "TYPE",        "FILE",       "ADD_FILE",        "GROUP",          "ELEMENT_GROUP",
-    "NODE_GROUP",  "FACE_GROUP",  "DRESP",      "TARGET",          "VALUE",          "MIN",
-    "MAX",         "LIST_BEGIN",  "DV",         "OBJ_FUNC",        "CONSTRAINT",     "DV_CONSTRAINT",
-    "STRATEGY",    "STOP",        "MESH_SMOOTH", "ITER_MAX",       "OPT_PARAM",      "DV_UPDATE_PARAM",
-    "REFERENCE",   "COEFFICIENT", "SOLVER_RUN_MODE", "SENS_CALC_MODE", "UPDATE_TYPE", "UPDATE_ID",
-    "FORMAT",      "DESCRIPTION", "DIRECTION",  "LOADCASE",        "MAGNITUDE",      "LOWER",
-    "UPPER",       "CS",          "PLACEHOLDER"};
+  const char* const expected[] = {"ID_NAME",
+                                  "TYPE",
+                                  "FILE",
+                                  "ADD_FILE",
+                                  "GROUP",
+                                  "ELEMENT_GROUP",
+                                  "NODE_GROUP",
+                                  "FACE_GROUP",
+                                  "DRESP",
+                                  "TARGET",
+                                  "VALUE",
+                                  "MIN",
+                                  "MAX",
+                                  "LIST_BEGIN",
+                                  "DV",
+                                  "OBJ_FUNC",
+                                  "CONSTRAINT",
+                                  "DV_CONSTRAINT",
+                                  "STRATEGY",
+                                  "STOP",
+                                  "MESH_SMOOTH",
+                                  "ITER_MAX",
+                                  "OPT_PARAM",
+                                  "DV_UPDATE_PARAM",
+                                  "REFERENCE",
+                                  "COEFFICIENT",
+                                  "SOLVER_RUN_MODE",
+                                  "SENS_CALC_MODE",
+                                  "UPDATE_TYPE",
+                                  "UPDATE_ID",
+                                  "FORMAT",
+                                  "DESCRIPTION",
+                                  "DIRECTION",
+                                  "LOADCASE",
+                                  "MAGNITUDE",
+                                  "LOWER",
+                                  "UPPER",
+                                  "CS",
+                                  "PLACEHOLDER"};
   ASSERT_EQ(CMD_ITEM_NAMES.size(), 39U);
   for (std::size_t number = 0; number < CMD_ITEM_NAMES.size(); ++number)
   {

@@ -13,10 +13,9 @@ using testing::Not;
 
 TEST(ThrowFailure, ThrowsAFailureWithTextCodeAndPrefix)
 {
-  EXPECT_EQ(FailureOf(
-              [] {
-                ThrowFailure("[prefix] ", {"it went wrong", "204046270608"});
-              }),
+  EXPECT_EQ(FailureOf([] {
+              ThrowFailure("[prefix] ", {"it went wrong", "204046270608"});
+            }),
             (Failure{"it went wrong", "204046270608", "[prefix] "}));
 }
 
@@ -36,11 +35,9 @@ TEST(ThrowFailure, ThrowsAFailureWithoutACodeWhereTheSiteHasNone)
 TEST(ThrowFailure, PrintsTheArgumentsIntoTheText)
 {
   const FailureText text{"Invalid index %Iu of %s. Number is %d.", "220653270608"};
-  EXPECT_EQ(FailureOf(
-              [&] {
-                ThrowFailure("", text, {std::numeric_limits<std::uint64_t>::max(), "DV_", -3});
-              })
-              .message,
+  EXPECT_EQ(FailureOf([&] {
+              ThrowFailure("", text, {std::numeric_limits<std::uint64_t>::max(), "DV_", -3});
+            }).message,
             "Invalid index 18446744073709551615 of DV_. Number is -3.");
 }
 

@@ -145,8 +145,9 @@ TEST(GyreParfileHeap, FreesTheCommandsInTheOrderInWhichTheyWereLoaded)
   const HeapWatch watch;
   parfile.reset();
   std::vector<const void*> freed = watch.Freed();
-  const auto is_other = [&](const void* block)
-  { return std::find(commands.begin(), commands.end(), block) == commands.end(); };
+  const auto is_other = [&](const void* block) {
+    return std::find(commands.begin(), commands.end(), block) == commands.end();
+  };
   freed.erase(std::remove_if(freed.begin(), freed.end(), is_other), freed.end());
   EXPECT_EQ(freed, commands);
 }

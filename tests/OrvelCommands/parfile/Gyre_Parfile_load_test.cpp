@@ -64,8 +64,7 @@ Calls CommandCountsAt(const Calls& calls, std::size_t failing)
   const std::size_t second_pass = std::find(calls.begin(), calls.end(), kFirstCallOfTheSecondPass) - calls.begin();
   std::string kind;
   std::uint64_t count = 0;
-  const auto end_kind = [&]
-  {
+  const auto end_kind = [&] {
     if (count != 0)
     {
       counts.push_back(kind + " " + std::to_string(count));
@@ -93,17 +92,15 @@ Calls CommandCountsAt(const Calls& calls, std::size_t failing)
 void QueryEverything(const Gyre_Parfile& parfile)
 {
   const CapturedLog log;
-  ForEachManyKind(
-    [&](const auto& kind)
+  ForEachManyKind([&](const auto& kind) {
+    const auto commands = (parfile.*kind.all)();
+    for (std::uint64_t index = 1; index <= commands.size(); ++index)
     {
-      const auto commands = (parfile.*kind.all)();
-      for (std::uint64_t index = 1; index <= commands.size(); ++index)
-      {
-        ASSERT_EQ(&(parfile.*kind.by_index)(index), commands[index - 1]);
-        ASSERT_TRUE((parfile.*kind.has)(commands[index - 1]->GetID_NAME_()));
-        commands[index - 1]->ToString();
-      }
-    });
+      ASSERT_EQ(&(parfile.*kind.by_index)(index), commands[index - 1]);
+      ASSERT_TRUE((parfile.*kind.has)(commands[index - 1]->GetID_NAME_()));
+      commands[index - 1]->ToString();
+    }
+  });
 }
 
 const Failure kNoFailure{"nothing was thrown", "", ""};

@@ -21,14 +21,12 @@ std::vector<const OrvelCommand*> CommandsOf(const Gyre_Parfile& parfile)
 {
   std::vector<const OrvelCommand*> commands = {&parfile.GetMODEL_(), &parfile.GetOBJ_FUNC_(), &parfile.GetALGO_(),
                                                &parfile.GetFLOWPATHS_()};
-  ForEachManyKind(
-    [&](const auto& kind)
+  ForEachManyKind([&](const auto& kind) {
+    for (const auto* command : (parfile.*kind.all)())
     {
-      for (const auto* command : (parfile.*kind.all)())
-      {
-        commands.push_back(command);
-      }
-    });
+      commands.push_back(command);
+    }
+  });
   return commands;
 }
 

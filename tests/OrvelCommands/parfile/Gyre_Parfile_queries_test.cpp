@@ -21,14 +21,12 @@ RecordingStorage JobWithThreeOfEachKind()
 {
   RecordingStorage storage;
   storage.KeepOutputsOfAbsentKeys();
-  ForEachManyKind(
-    [&](const auto& kind)
+  ForEachManyKind([&](const auto& kind) {
+    for (const char* id : {"first", "second", "third"})
     {
-      for (const char* id : {"first", "second", "third"})
-      {
-        storage.Command(kind.name, id);
-      }
-    });
+      storage.Command(kind.name, id);
+    }
+  });
   for (const char* id : {"first", "second", "third"})
   {
     storage.Command("MONITOR_", id)["DRESP_"] = {Ref{"first"}};
@@ -117,17 +115,15 @@ TEST(GyreParfileQueries, GivesAllCommandsOfAKindInTheOrderOfLoading)
   RecordingStorage storage = JobWithThreeOfEachKind();
   Gyre_Parfile parfile(storage);
   parfile.Load();
-  ForEachManyKind(
-    [&](const auto& kind)
+  ForEachManyKind([&](const auto& kind) {
+    SCOPED_TRACE(kind.name);
+    EXPECT_THAT(IdsOf((parfile.*kind.all)()), ElementsAre("first", "second", "third"));
+    EXPECT_EQ((parfile.*kind.num)(), 3U);
+    for (const auto* command : (parfile.*kind.all)())
     {
-      SCOPED_TRACE(kind.name);
-      EXPECT_THAT(IdsOf((parfile.*kind.all)()), ElementsAre("first", "second", "third"));
-      EXPECT_EQ((parfile.*kind.num)(), 3U);
-      for (const auto* command : (parfile.*kind.all)())
-      {
-        EXPECT_EQ(command->GetType(), kind.name);
-      }
-    });
+      EXPECT_EQ(command->GetType(), kind.name);
+    }
+  });
 }
 
 TEST(GyreParfileQueries, GivesACommandByItsPlaceCountedFromOne)
@@ -135,16 +131,14 @@ TEST(GyreParfileQueries, GivesACommandByItsPlaceCountedFromOne)
   RecordingStorage storage = JobWithThreeOfEachKind();
   Gyre_Parfile parfile(storage);
   parfile.Load();
-  ForEachManyKind(
-    [&](const auto& kind)
-    {
-      SCOPED_TRACE(kind.name);
-      const auto commands = (parfile.*kind.all)();
-      ASSERT_EQ(commands.size(), 3U);
-      EXPECT_EQ(&(parfile.*kind.by_index)(1), commands[0]);
-      EXPECT_EQ(&(parfile.*kind.by_index)(2), commands[1]);
-      EXPECT_EQ(&(parfile.*kind.by_index)(3), commands[2]);
-    });
+  ForEachManyKind([&](const auto& kind) {
+    SCOPED_TRACE(kind.name);
+    const auto commands = (parfile.*kind.all)();
+    ASSERT_EQ(commands.size(), 3U);
+    EXPECT_EQ(&(parfile.*kind.by_index)(1), commands[0]);
+    EXPECT_EQ(&(parfile.*kind.by_index)(2), commands[1]);
+    EXPECT_EQ(&(parfile.*kind.by_index)(3), commands[2]);
+  });
 }
 
 TEST(GyreParfileQueries, GivesACommandByItsId)
@@ -152,18 +146,16 @@ TEST(GyreParfileQueries, GivesACommandByItsId)
   RecordingStorage storage = JobWithThreeOfEachKind();
   Gyre_Parfile parfile(storage);
   parfile.Load();
-  ForEachManyKind(
-    [&](const auto& kind)
-    {
-      SCOPED_TRACE(kind.name);
-      const auto commands = (parfile.*kind.all)();
-      ASSERT_EQ(commands.size(), 3U);
-      EXPECT_EQ(&(parfile.*kind.by_id)("first"), commands[0]);
-      EXPECT_EQ(&(parfile.*kind.by_id)("second"), commands[1]);
-      EXPECT_EQ(&(parfile.*kind.by_id)("third"), commands[2]);
-      EXPECT_TRUE((parfile.*kind.has)("first"));
-      EXPECT_TRUE((parfile.*kind.has)("third"));
-    });
+  ForEachManyKind([&](const auto& kind) {
+    SCOPED_TRACE(kind.name);
+    const auto commands = (parfile.*kind.all)();
+    ASSERT_EQ(commands.size(), 3U);
+    EXPECT_EQ(&(parfile.*kind.by_id)("first"), commands[0]);
+    EXPECT_EQ(&(parfile.*kind.by_id)("second"), commands[1]);
+    EXPECT_EQ(&(parfile.*kind.by_id)("third"), commands[2]);
+    EXPECT_TRUE((parfile.*kind.has)("first"));
+    EXPECT_TRUE((parfile.*kind.has)("third"));
+  });
 }
 
 TEST(GyreParfileQueries, RefusesAPlaceOutsideOneToTheCount)
@@ -171,18 +163,16 @@ TEST(GyreParfileQueries, RefusesAPlaceOutsideOneToTheCount)
   RecordingStorage storage = JobWithThreeOfEachKind();
   Gyre_Parfile parfile(storage);
   parfile.Load();
-  ForEachManyKind(
-    [&](const auto& kind)
+  ForEachManyKind([&](const auto& kind) {
+    const std::string name = kind.name;
+    for (const std::uint64_t index : {0, 4, 1000})
     {
-      const std::string name = kind.name;
-      for (const std::uint64_t index : {0, 4, 1000})
-      {
-        EXPECT_EQ(FailureOf([&] { (parfile.*kind.by_index)(index); }),
-                  (Failure{"Invalid index " + std::to_string(index) + " of the parameterfile command " + name +
-                             " to retrieve. Number of available commands is 3",
-                           "204046270608", "[%T|%n|%P|OrvelCommands|Gyre_Parfile] "}));
-      }
-    });
+      EXPECT_EQ(FailureOf([&] { (parfile.*kind.by_index)(index); }),
+                (Failure{"Invalid index " + std::to_string(index) + " of the parameterfile command " + name +
+                           " to retrieve. Number of available commands is 3",
+                         "204046270608", "[%T|%n|%P|OrvelCommands|Gyre_Parfile] "}));
+    }
+  });
 }
 
 TEST(GyreParfileQueries, CountsThreeVariablesFromOneToThree)
@@ -215,15 +205,13 @@ TEST(GyreParfileQueries, RefusesAnUnknownId)
   RecordingStorage storage = JobWithThreeOfEachKind();
   Gyre_Parfile parfile(storage);
   parfile.Load();
-  ForEachManyKind(
-    [&](const auto& kind)
-    {
-      const std::string name = kind.name;
-      EXPECT_EQ(FailureOf([&] { (parfile.*kind.by_id)("fourth"); }),
-                (Failure{"Invalid ID fourth of the parameter file command " + name, "161700240908",
-                         "[%T|%n|%P|OrvelCommands|Gyre_Parfile] "}));
-      EXPECT_FALSE((parfile.*kind.has)("fourth")) << name;
-    });
+  ForEachManyKind([&](const auto& kind) {
+    const std::string name = kind.name;
+    EXPECT_EQ(FailureOf([&] { (parfile.*kind.by_id)("fourth"); }),
+              (Failure{"Invalid ID fourth of the parameter file command " + name, "161700240908",
+                       "[%T|%n|%P|OrvelCommands|Gyre_Parfile] "}));
+    EXPECT_FALSE((parfile.*kind.has)("fourth")) << name;
+  });
 }
 
 TEST(GyreParfileQueries, ComparesIdsByteByByte)
@@ -338,17 +326,15 @@ TEST(GyreParfileQueries, GivesADefaultCommandForAnotherIdOfASingleKind)
   RecordingStorage storage = CompleteJob();
   Gyre_Parfile parfile(storage);
   parfile.Load();
-  ForEachSingleKind(
-    [&](const auto& kind)
-    {
-      SCOPED_TRACE(kind.name);
-      const auto& other = (parfile.*kind.by_id)("another");
-      EXPECT_EQ(other.GetID_NAME_(), "");
-      EXPECT_EQ(other.GetType(), kind.name);
-      EXPECT_NE(&other, &(parfile.*kind.get)());
-      EXPECT_EQ(&other, &(parfile.*kind.by_id)("yet another"));
-      EXPECT_EQ(&other, &(parfile.*kind.by_id)(""));
-    });
+  ForEachSingleKind([&](const auto& kind) {
+    SCOPED_TRACE(kind.name);
+    const auto& other = (parfile.*kind.by_id)("another");
+    EXPECT_EQ(other.GetID_NAME_(), "");
+    EXPECT_EQ(other.GetType(), kind.name);
+    EXPECT_NE(&other, &(parfile.*kind.get)());
+    EXPECT_EQ(&other, &(parfile.*kind.by_id)("yet another"));
+    EXPECT_EQ(&other, &(parfile.*kind.by_id)(""));
+  });
 }
 
 TEST(GyreParfileQueries, GivesDefaultCommandsThatWereNeverLoaded)
@@ -378,39 +364,35 @@ TEST(GyreParfileQueries, FindsNothingInAnAggregateThatWasNeverLoaded)
 {
   RecordingStorage storage = CompleteJob();
   const Gyre_Parfile parfile(storage);
-  ForEachManyKind(
-    [&](const auto& kind)
+  ForEachManyKind([&](const auto& kind) {
+    const std::string name = kind.name;
+    EXPECT_EQ((parfile.*kind.num)(), 0U) << name;
+    EXPECT_THAT((parfile.*kind.all)(), IsEmpty()) << name;
+    EXPECT_FALSE((parfile.*kind.has)("variable")) << name;
+    EXPECT_FALSE((parfile.*kind.has)("")) << name;
+    EXPECT_EQ(FailureOf([&] { (parfile.*kind.by_id)("variable"); }).message,
+              "Invalid ID variable of the parameter file command " + name);
+    for (const std::uint64_t index : {0, 1})
     {
-      const std::string name = kind.name;
-      EXPECT_EQ((parfile.*kind.num)(), 0U) << name;
-      EXPECT_THAT((parfile.*kind.all)(), IsEmpty()) << name;
-      EXPECT_FALSE((parfile.*kind.has)("variable")) << name;
-      EXPECT_FALSE((parfile.*kind.has)("")) << name;
-      EXPECT_EQ(FailureOf([&] { (parfile.*kind.by_id)("variable"); }).message,
-                "Invalid ID variable of the parameter file command " + name);
-      for (const std::uint64_t index : {0, 1})
-      {
-        EXPECT_EQ(FailureOf([&] { (parfile.*kind.by_index)(index); }),
-                  (Failure{"Invalid index " + std::to_string(index) + " of the parameterfile command " + name +
-                             " to retrieve. Number of available commands is 0",
-                           "204046270608", "[%T|%n|%P|OrvelCommands|Gyre_Parfile] "}));
-      }
-    });
+      EXPECT_EQ(FailureOf([&] { (parfile.*kind.by_index)(index); }),
+                (Failure{"Invalid index " + std::to_string(index) + " of the parameterfile command " + name +
+                           " to retrieve. Number of available commands is 0",
+                         "204046270608", "[%T|%n|%P|OrvelCommands|Gyre_Parfile] "}));
+    }
+  });
 }
 
 TEST(GyreParfileQueries, FailsForASingleKindOfAnAggregateThatWasNeverLoaded)
 {
   RecordingStorage storage = CompleteJob();
   const Gyre_Parfile parfile(storage);
-  ForEachSingleKind(
-    [&](const auto& kind)
-    {
-      const Failure expected{std::string("0 commands of type ") + kind.name + " detected. Only one is expected.",
-                             "204046270608", "[%T|%n|%P|OrvelCommands|Gyre_Parfile] "};
-      EXPECT_EQ(FailureOf([&] { (parfile.*kind.get)(); }), expected);
-      EXPECT_EQ(FailureOf([&] { (parfile.*kind.by_id)("model"); }), expected);
-      EXPECT_EQ(FailureOf([&] { (parfile.*kind.by_id)(""); }), expected);
-    });
+  ForEachSingleKind([&](const auto& kind) {
+    const Failure expected{std::string("0 commands of type ") + kind.name + " detected. Only one is expected.",
+                           "204046270608", "[%T|%n|%P|OrvelCommands|Gyre_Parfile] "};
+    EXPECT_EQ(FailureOf([&] { (parfile.*kind.get)(); }), expected);
+    EXPECT_EQ(FailureOf([&] { (parfile.*kind.by_id)("model"); }), expected);
+    EXPECT_EQ(FailureOf([&] { (parfile.*kind.by_id)(""); }), expected);
+  });
   EXPECT_EQ(FailureOf([&] { parfile.GetALGO_(); }).message, "0 commands of type ALGO_ detected. Only one is expected.");
 }
 
@@ -448,22 +430,18 @@ TEST(GyreParfileQueries, DoesNotTouchTheStorage)
   Gyre_Parfile parfile(storage);
   parfile.Load();
   storage.ForgetCalls();
-  ForEachManyKind(
-    [&](const auto& kind)
-    {
-      (parfile.*kind.all)();
-      (parfile.*kind.by_id)("second");
-      (parfile.*kind.by_index)(1);
-      (parfile.*kind.has)("nothing");
-      (parfile.*kind.num)();
-      EXPECT_THROW((parfile.*kind.by_id)("nothing"), KLV_Failure);
-    });
-  ForEachSingleKind(
-    [&](const auto& kind)
-    {
-      (parfile.*kind.get)();
-      (parfile.*kind.by_id)("nothing");
-    });
+  ForEachManyKind([&](const auto& kind) {
+    (parfile.*kind.all)();
+    (parfile.*kind.by_id)("second");
+    (parfile.*kind.by_index)(1);
+    (parfile.*kind.has)("nothing");
+    (parfile.*kind.num)();
+    EXPECT_THROW((parfile.*kind.by_id)("nothing"), KLV_Failure);
+  });
+  ForEachSingleKind([&](const auto& kind) {
+    (parfile.*kind.get)();
+    (parfile.*kind.by_id)("nothing");
+  });
   EXPECT_THAT(storage.Calls(), IsEmpty());
 }
 

@@ -47,15 +47,13 @@ TEST(ForEachCommand, GivesTheCommandsThemselvesAsConstReferencesOfTheirOwnClass)
   Gyre_Parfile parfile(storage);
   parfile.Load();
   std::vector<const OrvelCommand*> variables;
-  ForEachCommand(parfile,
-                 [&](auto& command)
-                 {
-                   static_assert(std::is_const_v<std::remove_reference_t<decltype(command)>>);
-                   if constexpr (std::is_same_v<decltype(command), const DV_&>)
-                   {
-                     variables.push_back(&command);
-                   }
-                 });
+  ForEachCommand(parfile, [&](auto& command) {
+    static_assert(std::is_const_v<std::remove_reference_t<decltype(command)>>);
+    if constexpr (std::is_same_v<decltype(command), const DV_&>)
+    {
+      variables.push_back(&command);
+    }
+  });
   EXPECT_THAT(variables, ElementsAre(&parfile.GetDV_("variable"), &parfile.GetDV_("other")));
 }
 
@@ -104,8 +102,7 @@ TEST(ForEachCommand, LetsTheFailureOfTheVisitorPass)
   Gyre_Parfile parfile(storage);
   parfile.Load();
   int visited = 0;
-  const auto visitor = [&](const auto&)
-  {
+  const auto visitor = [&](const auto&) {
     if (++visited == 3)
     {
       throw FailedOnDemand("third");

@@ -54,11 +54,11 @@ struct EmptyCount
 };
 
 constexpr EmptyCount kCountsWithoutCommands[] = {
-  {"MODEL_", 0},        {"ELEMENT_GROUP_", 0}, {"FACE_GROUP_", 0},  {"NODE_GROUP_", 0},    {"DV_", 0},
-  {"DRESP_", 0},        {"OPERATOR_", 0},      {"OBJ_FUNC_", 0},    {"CONSTRAINT_", 0},    {"CS_", 0},
-  {"DV_CONSTRAINT_", 0}, {"MONITOR_", 0},      {"ALGO_", 0},        {"OPT_PARAM_", 1},     {"STOP_", 0},
-  {"MESH_SMOOTH_", 0},  {"FILTER_", 0},        {"PRE_PARAM_", 1},   {"AS_TOPO_OC_", 1},    {"AS_TOPO_SENS_", 1},
-  {"AS_SHAPE_SENS_", 1}, {"FLOWPATHS_", 1},    {"OUTPUT_", 0},      {"SCALING_CURVE_", 0}, {"SMOOTH_", 0}};
+  {"MODEL_", 0},         {"ELEMENT_GROUP_", 0}, {"FACE_GROUP_", 0}, {"NODE_GROUP_", 0},    {"DV_", 0},
+  {"DRESP_", 0},         {"OPERATOR_", 0},      {"OBJ_FUNC_", 0},   {"CONSTRAINT_", 0},    {"CS_", 0},
+  {"DV_CONSTRAINT_", 0}, {"MONITOR_", 0},       {"ALGO_", 0},       {"OPT_PARAM_", 1},     {"STOP_", 0},
+  {"MESH_SMOOTH_", 0},   {"FILTER_", 0},        {"PRE_PARAM_", 1},  {"AS_TOPO_OC_", 1},    {"AS_TOPO_SENS_", 1},
+  {"AS_SHAPE_SENS_", 1}, {"FLOWPATHS_", 1},     {"OUTPUT_", 0},     {"SCALING_CURVE_", 0}, {"SMOOTH_", 0}};
 
 }  // namespace
 

@@ -43,26 +43,16 @@ struct CommandRow
 };
 
 constexpr CommandRow kCommands[] = {
-  {"MODEL_", 0, 39, -1, Counting::Plain},
-  {"DRESP_", 3, 39, -1, Counting::Plain},
-  {"OPERATOR_", 4, 39, -1, Counting::Plain},
-  {"OBJ_FUNC_", 5, 39, -1, Counting::Plain},
-  {"CONSTRAINT_", 6, 39, -1, Counting::Plain},
-  {"DV_CONSTRAINT_", 7, 39, -1, Counting::Plain},
-  {"ALGO_", 9, 39, -1, Counting::Plain},
-  {"OPT_PARAM_", 10, 39, -1, Counting::Plain},
-  {"STOP_", 11, 39, -1, Counting::Plain},
-  {"MESH_SMOOTH_", 8, 39, -1, Counting::Plain},
-  {"OUTPUT_", 12, 39, -1, Counting::Plain},
-  {"SMOOTH_", 13, 39, -1, Counting::Plain},
-  {"AS_TOPO_OC_", 10, 39, -1, Counting::Plain},
-  {"AS_TOPO_SENS_", 10, 39, -1, Counting::Plain},
-  {"AS_SHAPE_SENS_", 10, 39, -1, Counting::Plain},
-  {"SCALING_CURVE_", 16, 39, -1, Counting::Plain},
-  {"FILTER_", 17, 39, -1, Counting::Plain},
-  {"ELEMENT_GROUP_", 1, 1, 0, Counting::Filtered},
-  {"NODE_GROUP_", 1, 1, 2, Counting::Filtered},
-  {"DV_", 2, 39, -1, Counting::DesignVariable},
+  {"MODEL_", 0, 39, -1, Counting::Plain},          {"DRESP_", 3, 39, -1, Counting::Plain},
+  {"OPERATOR_", 4, 39, -1, Counting::Plain},       {"OBJ_FUNC_", 5, 39, -1, Counting::Plain},
+  {"CONSTRAINT_", 6, 39, -1, Counting::Plain},     {"DV_CONSTRAINT_", 7, 39, -1, Counting::Plain},
+  {"ALGO_", 9, 39, -1, Counting::Plain},           {"OPT_PARAM_", 10, 39, -1, Counting::Plain},
+  {"STOP_", 11, 39, -1, Counting::Plain},          {"MESH_SMOOTH_", 8, 39, -1, Counting::Plain},
+  {"OUTPUT_", 12, 39, -1, Counting::Plain},        {"SMOOTH_", 13, 39, -1, Counting::Plain},
+  {"AS_TOPO_OC_", 10, 39, -1, Counting::Plain},    {"AS_TOPO_SENS_", 10, 39, -1, Counting::Plain},
+  {"AS_SHAPE_SENS_", 10, 39, -1, Counting::Plain}, {"SCALING_CURVE_", 16, 39, -1, Counting::Plain},
+  {"FILTER_", 17, 39, -1, Counting::Plain},        {"ELEMENT_GROUP_", 1, 1, 0, Counting::Filtered},
+  {"NODE_GROUP_", 1, 1, 2, Counting::Filtered},    {"DV_", 2, 39, -1, Counting::DesignVariable},
 };
 
 Defs::Cmd Kind(int number)
@@ -83,8 +73,7 @@ void AddCommandsOfAllKinds(OrvelCmdContainer& container)
   {
     for (int type = -1; type <= 3; ++type)
     {
-      OrvelCmd& command =
-        AddParsed(container, Kind(kind), std::to_string(kind) + " of type " + std::to_string(type));
+      OrvelCmd& command = AddParsed(container, Kind(kind), std::to_string(kind) + " of type " + std::to_string(type));
       command.AddEnumItem(Items::TYPE, Enumerator(type));
       command.AddStringItem(Items::DV, "one");
       command.AddStringItem(Items::DV, "two");
@@ -99,8 +88,8 @@ std::vector<std::string> NamesByRow(const CommandRow& row)
   {
     return {kind + " of type " + std::to_string(row.filter_value)};
   }
-  std::vector<std::string> names = {kind + " of type -1", kind + " of type 0", kind + " of type 1",
-                                    kind + " of type 2", kind + " of type 3"};
+  std::vector<std::string> names = {kind + " of type -1", kind + " of type 0", kind + " of type 1", kind + " of type 2",
+                                    kind + " of type 3"};
   if (row.counting == Counting::DesignVariable)
   {
     names.push_back("__v_merged_DV");
@@ -258,10 +247,10 @@ struct FilteredRow
 };
 
 constexpr FilteredRow kFilteredKeys[] = {
-  {"OPERATOR_", 4, "DRESP_", 24, 24, 3},       {"OPERATOR_", 4, "DRESP_WEIGHT_", 25, 24, 3},
-  {"OPERATOR_", 4, "OPERATOR_", 24, 24, 4},    {"OPERATOR_", 4, "OPERATOR_WEIGHT_", 25, 24, 4},
-  {"OBJ_FUNC_", 5, "DRESP_", 8, 8, 3},         {"OBJ_FUNC_", 5, "OPERATOR_", 8, 8, 4},
-  {"CONSTRAINT_", 6, "DRESP_", 8, 8, 3},       {"CONSTRAINT_", 6, "OPERATOR_", 8, 8, 4},
+  {"OPERATOR_", 4, "DRESP_", 24, 24, 3},    {"OPERATOR_", 4, "DRESP_WEIGHT_", 25, 24, 3},
+  {"OPERATOR_", 4, "OPERATOR_", 24, 24, 4}, {"OPERATOR_", 4, "OPERATOR_WEIGHT_", 25, 24, 4},
+  {"OBJ_FUNC_", 5, "DRESP_", 8, 8, 3},      {"OBJ_FUNC_", 5, "OPERATOR_", 8, 8, 4},
+  {"CONSTRAINT_", 6, "DRESP_", 8, 8, 3},    {"CONSTRAINT_", 6, "OPERATOR_", 8, 8, 4},
 };
 
 // The keys that read the command to which the first OPTIMIZE refers.
@@ -273,7 +262,7 @@ struct ReferencedRow
 };
 
 constexpr ReferencedRow kReferencedKeys[] = {
-  {"MIN_", 11},       {"MAX_", 12},           {"ALGORITHM_", 18},   {"MOVE_", 10},
+  {"MIN_", 11},       {"MAX_", 12},           {"ALGORITHM_", 18},    {"MOVE_", 10},
   {"ASYM_MOVE_", 28}, {"ASYM_MOVE_LOW_", 35}, {"ASYM_MOVE_UP_", 36},
 };
 

@@ -62,8 +62,10 @@ class ParsedOperator : public testing::Test
 {
 protected:
   ParsedOperator()
-    : m_sum(AddParsed(m_container, Defs::OPERATOR, "sum")), m_a(AddParsed(m_container, Defs::DRESP, "a")),
-      m_b(AddParsed(m_container, Defs::OPERATOR, "b")), m_c(AddParsed(m_container, Defs::DRESP, "c"))
+    : m_sum(AddParsed(m_container, Defs::OPERATOR, "sum")),
+      m_a(AddParsed(m_container, Defs::DRESP, "a")),
+      m_b(AddParsed(m_container, Defs::OPERATOR, "b")),
+      m_c(AddParsed(m_container, Defs::DRESP, "c"))
   {
   }
 

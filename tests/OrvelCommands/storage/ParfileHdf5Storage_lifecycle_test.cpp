@@ -185,20 +185,18 @@ TEST_F(ParfileHdf5StorageLifecycle, ClosesItsFileWhenDestroyedThroughTheInterfac
 
 TEST_F(ParfileHdf5StorageLifecycle, ReadsWhatAnEarlierProcessWroteAndWritesNothingWhenReadOnly)
 {
-  InAProcessOfItsOwn(
-    []
-    {
-      const ParfileHdf5Storage storage = StorageWithCommand();
-      storage.AddCommand("FILTER_", "fine");
-      storage.AddValue("DV_", "porosity", "COUNT_", vtmInteger, 3);
-      storage.AddValue("DV_", "porosity", "TYPE_", vtmEnum, 68);
-      storage.AddValue("DV_", "porosity", "INITIAL_", vtmDouble, 0.4);
-      storage.AddValue("DV_", "porosity", "FIELD_", vtmString, std::string("start.csv"));
-      storage.AddValue("DV_", "porosity", "GROUP_", vtmModelId, std::string("duct"));
-      storage.AddValue("DV_", "porosity", "LIST_", vtmIntegerList, std::vector<int>{4, 7, 11});
-      storage.AddValue("DV_", "porosity", "CUTOFF_", vtmDoubleList, std::vector<double>{0.5, 0.25});
-      storage.AddReference("DV_", "porosity", "FILTER_", "FILTER_", "fine");
-    });
+  InAProcessOfItsOwn([] {
+    const ParfileHdf5Storage storage = StorageWithCommand();
+    storage.AddCommand("FILTER_", "fine");
+    storage.AddValue("DV_", "porosity", "COUNT_", vtmInteger, 3);
+    storage.AddValue("DV_", "porosity", "TYPE_", vtmEnum, 68);
+    storage.AddValue("DV_", "porosity", "INITIAL_", vtmDouble, 0.4);
+    storage.AddValue("DV_", "porosity", "FIELD_", vtmString, std::string("start.csv"));
+    storage.AddValue("DV_", "porosity", "GROUP_", vtmModelId, std::string("duct"));
+    storage.AddValue("DV_", "porosity", "LIST_", vtmIntegerList, std::vector<int>{4, 7, 11});
+    storage.AddValue("DV_", "porosity", "CUTOFF_", vtmDoubleList, std::vector<double>{0.5, 0.25});
+    storage.AddReference("DV_", "porosity", "FILTER_", "FILTER_", "fine");
+  });
   const auto bytes_before = std::filesystem::file_size("parfile_storage.hdf5");
   {
     const ParfileHdf5Storage storage = ReadOnlyStorage();
@@ -221,82 +219,68 @@ TEST_F(ParfileHdf5StorageLifecycle, ReadsWhatAnEarlierProcessWroteAndWritesNothi
 
 TEST_F(ParfileHdf5StorageLifecycle, FailsToMakeItsRootGroupASecondTime)
 {
-  InAProcessOfItsOwn(
-    []
-    {
-      FreshStorage().AddCommand("DV_", "porosity");
-      EXPECT_THAT(FailureOfOpening(true, false),
-                  IsDatabaseFailure("Failed to create parfile storage in the optimization database.", "192431310512"));
-    });
+  InAProcessOfItsOwn([] {
+    FreshStorage().AddCommand("DV_", "porosity");
+    EXPECT_THAT(FailureOfOpening(true, false),
+                IsDatabaseFailure("Failed to create parfile storage in the optimization database.", "192431310512"));
+  });
   EXPECT_TRUE(ReadOnlyStorage().HasCommand("DV_", "porosity"));
 }
 
 TEST_F(ParfileHdf5StorageLifecycle, FailsToMakeItsRootGroupReadOnly)
 {
-  InAProcessOfItsOwn(
-    []
-    {
-      plain_hdf5::MakeEmptyFile();
-      EXPECT_THAT(FailureOfOpening(true, true),
-                  IsDatabaseFailure("Failed to create parfile storage in the optimization database.", "192431310512"));
-    });
-  InAProcessOfItsOwn(
-    []
-    {
-      plain_hdf5::MakeFileWithParfile();
-      EXPECT_THAT(FailureOfOpening(true, true),
-                  IsDatabaseFailure("Failed to create parfile storage in the optimization database.", "192431310512"));
-    });
+  InAProcessOfItsOwn([] {
+    plain_hdf5::MakeEmptyFile();
+    EXPECT_THAT(FailureOfOpening(true, true),
+                IsDatabaseFailure("Failed to create parfile storage in the optimization database.", "192431310512"));
+  });
+  InAProcessOfItsOwn([] {
+    plain_hdf5::MakeFileWithParfile();
+    EXPECT_THAT(FailureOfOpening(true, true),
+                IsDatabaseFailure("Failed to create parfile storage in the optimization database.", "192431310512"));
+  });
 }
 
 TEST_F(ParfileHdf5StorageLifecycle, FailsToOpenARootGroupThatIsNotThere)
 {
   for (const bool read_only : {false, true})
   {
-    InAProcessOfItsOwn(
-      [=]
-      {
-        plain_hdf5::MakeEmptyFile();
-        EXPECT_THAT(
-          FailureOfOpening(false, read_only),
-          IsDatabaseFailure("Failed to retrieve the parfile from the optimization database.", "192435310512"));
-      });
+    InAProcessOfItsOwn([=] {
+      plain_hdf5::MakeEmptyFile();
+      EXPECT_THAT(FailureOfOpening(false, read_only),
+                  IsDatabaseFailure("Failed to retrieve the parfile from the optimization database.", "192435310512"));
+    });
   }
   EXPECT_THAT(plain_hdf5::Objects(), IsEmpty());
 }
 
 TEST_F(ParfileHdf5StorageLifecycle, FailsToOpenARootGroupThatIsADataset)
 {
-  InAProcessOfItsOwn(
-    []
-    {
-      plain_hdf5::MakeEmptyFile();
-      plain_hdf5::MakeScalar("/PARFILE", H5T_NATIVE_INT, nullptr);
-      EXPECT_THAT(FailureOfOpening(false, true),
-                  IsDatabaseFailure("Failed to retrieve the parfile from the optimization database.", "192435310512"));
-    });
+  InAProcessOfItsOwn([] {
+    plain_hdf5::MakeEmptyFile();
+    plain_hdf5::MakeScalar("/PARFILE", H5T_NATIVE_INT, nullptr);
+    EXPECT_THAT(FailureOfOpening(false, true),
+                IsDatabaseFailure("Failed to retrieve the parfile from the optimization database.", "192435310512"));
+  });
 }
 
 TEST_F(ParfileHdf5StorageLifecycle, LeavesTheFileOpenOnlyWhenItsRootGroupFails)
 {
-  InAProcessOfItsOwn(
-    []
-    {
-      EXPECT_THAT(FailureOfOpening(false, false), IsFileFailure());
-      EXPECT_EQ(plain_hdf5::NumOpenObjects(), 0);
-      plain_hdf5::MakeEmptyFile();
-      FailureOfOpening(false, false);
-      EXPECT_EQ(plain_hdf5::NumOpenObjects(), 1);
-      FailureOfOpening(false, false);
-      EXPECT_EQ(plain_hdf5::NumOpenObjects(), 2);
-    });
+  InAProcessOfItsOwn([] {
+    EXPECT_THAT(FailureOfOpening(false, false), IsFileFailure());
+    EXPECT_EQ(plain_hdf5::NumOpenObjects(), 0);
+    plain_hdf5::MakeEmptyFile();
+    FailureOfOpening(false, false);
+    EXPECT_EQ(plain_hdf5::NumOpenObjects(), 1);
+    FailureOfOpening(false, false);
+    EXPECT_EQ(plain_hdf5::NumOpenObjects(), 2);
+  });
 }
 
 TEST_F(ParfileHdf5StorageLifecycle, LetsHdf5ReportOnStandardErrorByItself)
 {
   InAProcessOfItsOwn(
-    []
-    {
+    [] {
       H5Eset_auto2(H5E_DEFAULT, reinterpret_cast<H5E_auto2_t>(H5Eprint2), nullptr);  // as a process starts
       FailureOfOpening(false, false);
     },
@@ -305,39 +289,35 @@ TEST_F(ParfileHdf5StorageLifecycle, LetsHdf5ReportOnStandardErrorByItself)
 
 TEST_F(ParfileHdf5StorageLifecycle, SharesOneOpenFileWithItsCopy)
 {
-  InAProcessOfItsOwn(
-    []
-    {
-      const ParfileHdf5Storage storage = StorageWithCommand();
-      const NeverDestroyed copy(storage);
-      copy.storage.AddValue("DV_", "porosity", "INITIAL_", vtmDouble, 0.4);
-      storage.AddValue("DV_", "porosity", "INITIAL_", vtmDouble, 0.5);
-      EXPECT_EQ(DoubleOf(storage, "INITIAL_", 1), 0.4);
-      EXPECT_EQ(DoubleOf(copy.storage, "INITIAL_", 2), 0.5);
-      EXPECT_EQ(plain_hdf5::NumOpenFiles(), 1);
-      EXPECT_EQ(plain_hdf5::NumHoldersOfTheOpenFile(), 1) << "the file itself is not copied";
-    });
+  InAProcessOfItsOwn([] {
+    const ParfileHdf5Storage storage = StorageWithCommand();
+    const NeverDestroyed copy(storage);
+    copy.storage.AddValue("DV_", "porosity", "INITIAL_", vtmDouble, 0.4);
+    storage.AddValue("DV_", "porosity", "INITIAL_", vtmDouble, 0.5);
+    EXPECT_EQ(DoubleOf(storage, "INITIAL_", 1), 0.4);
+    EXPECT_EQ(DoubleOf(copy.storage, "INITIAL_", 2), 0.5);
+    EXPECT_EQ(plain_hdf5::NumOpenFiles(), 1);
+    EXPECT_EQ(plain_hdf5::NumHoldersOfTheOpenFile(), 1) << "the file itself is not copied";
+  });
 }
 
 TEST_F(ParfileHdf5StorageLifecycle, SharesOneOpenFileWithWhatItIsAssignedTo)
 {
-  InAProcessOfItsOwn(
-    []
-    {
-      const ParfileHdf5Storage source = StorageWithCommand();
-      source.AddValue("DV_", "porosity", "INITIAL_", vtmDouble, 0.4);
+  InAProcessOfItsOwn([] {
+    const ParfileHdf5Storage source = StorageWithCommand();
+    source.AddValue("DV_", "porosity", "INITIAL_", vtmDouble, 0.4);
 
-      std::filesystem::create_directory("other");
-      std::filesystem::current_path("other");
-      FreshStorage();
-      const NeverDestroyed target;
-      EXPECT_EQ(target.storage.GetNumCommand("DV_"), 0U);
+    std::filesystem::create_directory("other");
+    std::filesystem::current_path("other");
+    FreshStorage();
+    const NeverDestroyed target;
+    EXPECT_EQ(target.storage.GetNumCommand("DV_"), 0U);
 
-      const ParfileHdf5Storage& result = target.storage = source;
-      EXPECT_EQ(&result, &target.storage);
-      EXPECT_EQ(DoubleOf(target.storage, "INITIAL_", 1), 0.4);
-      EXPECT_EQ(plain_hdf5::NumOpenFiles(), 2) << "the target's own file is not released";
-    });
+    const ParfileHdf5Storage& result = target.storage = source;
+    EXPECT_EQ(&result, &target.storage);
+    EXPECT_EQ(DoubleOf(target.storage, "INITIAL_", 1), 0.4);
+    EXPECT_EQ(plain_hdf5::NumOpenFiles(), 2) << "the target's own file is not released";
+  });
 }
 
 TEST_F(ParfileHdf5StorageLifecycle, SurvivesAnAssignmentToItself)

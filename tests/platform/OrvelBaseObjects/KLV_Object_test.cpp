@@ -11,23 +11,18 @@ namespace
 class Noted : public KLV_Object
 {
 public:
-  explicit Noted(bool& ended) : m_ended(&ended)
-  {
-  }
+  explicit Noted(bool& ended) : m_ended(&ended) {}
 
   Noted(const Noted& other) = default;
   Noted& operator=(const Noted& other) = default;
 
-  ~Noted() override
-  {
-    *m_ended = true;
-  }
+  ~Noted() override { *m_ended = true; }
 
 private:
   bool* m_ended;
 };
 
-} // namespace
+}  // namespace
 
 TEST(KLV_ObjectTest, CanBeMadeCopiedAndAssigned)
 {

@@ -15,8 +15,7 @@ using testing::IsNull;
 class OrvelParfileStorageCmdContainer
 {
 public:
-  static OrvelCmd& GetCommand(
-    const OrvelCmdContainer& container, OrvelCmdDefs::Cmd kind, std::uint64_t position)
+  static OrvelCmd& GetCommand(const OrvelCmdContainer& container, OrvelCmdDefs::Cmd kind, std::uint64_t position)
   {
     return container._GetCommand(kind, position);
   }
@@ -54,7 +53,7 @@ std::vector<const OrvelCmd*> EntriesOf(const OrvelCmdContainer& container, Orvel
   return entries;
 }
 
-} // namespace
+}  // namespace
 
 TEST(OrvelCmdContainerTest, HoldsNoCommandAtFirst)
 {
@@ -168,7 +167,7 @@ TEST(OrvelCmdContainerTest, NamesTheKindAndThePositionThatCannotBeRemoved)
   container.AddCommand(OrvelCmdDefs::DV);
 
   EXPECT_EQ(FailureOf<std::out_of_range>([&container] { container.RemoveCommand(OrvelCmdDefs::DV, 1); }),
-    "OrvelCmdContainer: kind 2 has 1 entries, so that there is none at position 1.");
+            "OrvelCmdContainer: kind 2 has 1 entries, so that there is none at position 1.");
 }
 
 TEST(OrvelCmdContainerTest, RefusesToAddANumberThatIsNoKind)
@@ -176,9 +175,9 @@ TEST(OrvelCmdContainerTest, RefusesToAddANumberThatIsNoKind)
   OrvelCmdContainer container;
 
   EXPECT_EQ(FailureOf<std::invalid_argument>([&container] { container.AddCommand(OrvelCmdDefs::CMD_NONE); }),
-    "OrvelCmdContainer: 21 is no kind of command.");
-  EXPECT_EQ(FailureOf<std::invalid_argument>(
-              [&container] { container.AddCommand(static_cast<OrvelCmdDefs::Cmd>(-1)); }),
+            "OrvelCmdContainer: 21 is no kind of command.");
+  EXPECT_EQ(
+    FailureOf<std::invalid_argument>([&container] { container.AddCommand(static_cast<OrvelCmdDefs::Cmd>(-1)); }),
     "OrvelCmdContainer: -1 is no kind of command.");
 }
 

@@ -21,8 +21,8 @@ TEST(OrvelCmdItem_UtilTest, IsFalseForAnItemThatIsNoReference)
   OrvelCmd command(OrvelCmdDefs::DRESP);
   command.AddStringItem(OrvelCmdItemDefs::REFERENCE, "mass");
 
-  EXPECT_FALSE(OrvelCmdItem_Util::has_item_reference_of_type(
-    command.Item(OrvelCmdItemDefs::REFERENCE, 0), OrvelCmdDefs::DRESP));
+  EXPECT_FALSE(
+    OrvelCmdItem_Util::has_item_reference_of_type(command.Item(OrvelCmdItemDefs::REFERENCE, 0), OrvelCmdDefs::DRESP));
 }
 
 TEST(OrvelCmdItem_UtilTest, IsFalseWhenTheCommandHasEnded)

@@ -17,10 +17,7 @@ namespace
 class OrvelCmdItemTest : public testing::Test
 {
 protected:
-  const OrvelCmdItem& Item() const
-  {
-    return m_command.Item(OrvelCmdItemDefs::VALUE, 0);
-  }
+  const OrvelCmdItem& Item() const { return m_command.Item(OrvelCmdItemDefs::VALUE, 0); }
 
   template <typename Result>
   std::string FailureOf(Result (OrvelCmdItem::*reader)() const) const
@@ -39,7 +36,7 @@ protected:
   OrvelCmd m_command{OrvelCmdDefs::DV};
 };
 
-} // namespace
+}  // namespace
 
 TEST_F(OrvelCmdItemTest, GivesATextAsItIs)
 {
@@ -55,18 +52,15 @@ TEST_F(OrvelCmdItemTest, NamesBothTypesWhenATextIsAskedForAnythingElse)
 {
   m_command.AddStringItem(OrvelCmdItemDefs::VALUE, "12");
 
-  EXPECT_EQ(FailureOf(&OrvelCmdItem::AsInteger),
-    "Item VALUE holds a text (12) and cannot be read as an integer.");
-  EXPECT_EQ(FailureOf(&OrvelCmdItem::AsDouble),
-    "Item VALUE holds a text (12) and cannot be read as a double.");
-  EXPECT_EQ(FailureOf(&OrvelCmdItem::AsEnumValue),
-    "Item VALUE holds a text (12) and cannot be read as an enumerator.");
+  EXPECT_EQ(FailureOf(&OrvelCmdItem::AsInteger), "Item VALUE holds a text (12) and cannot be read as an integer.");
+  EXPECT_EQ(FailureOf(&OrvelCmdItem::AsDouble), "Item VALUE holds a text (12) and cannot be read as a double.");
+  EXPECT_EQ(FailureOf(&OrvelCmdItem::AsEnumValue), "Item VALUE holds a text (12) and cannot be read as an enumerator.");
   EXPECT_EQ(FailureOf(&OrvelCmdItem::AsStringList),
-    "Item VALUE holds a text (12) and cannot be read as a list of texts.");
+            "Item VALUE holds a text (12) and cannot be read as a list of texts.");
   EXPECT_EQ(FailureOf(&OrvelCmdItem::AsIntegerSet),
-    "Item VALUE holds a text (12) and cannot be read as a set of integers.");
+            "Item VALUE holds a text (12) and cannot be read as a set of integers.");
   EXPECT_EQ(FailureOf(&OrvelCmdItem::ReferencedCommand),
-    "Item VALUE holds a text (12) and cannot be read as a reference.");
+            "Item VALUE holds a text (12) and cannot be read as a reference.");
 }
 
 TEST_F(OrvelCmdItemTest, ShowsTheBeginningOfALongValueInAFailure)
@@ -74,8 +68,8 @@ TEST_F(OrvelCmdItemTest, ShowsTheBeginningOfALongValueInAFailure)
   m_command.AddStringItem(OrvelCmdItemDefs::VALUE, std::string(1000, 'x'));
 
   EXPECT_EQ(FailureOf(&OrvelCmdItem::AsInteger),
-    "Item VALUE holds a text (xxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxx"
-    "xxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxx...) and cannot be read as an integer.");
+            "Item VALUE holds a text (xxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxx"
+            "xxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxx...) and cannot be read as an integer.");
 }
 
 TEST_F(OrvelCmdItemTest, ReadsAnIntegerAsEveryKindOfNumberAndAsText)
@@ -93,9 +87,9 @@ TEST_F(OrvelCmdItemTest, DoesNotReadAnIntegerAsAListOrReference)
   m_command.AddIntegerItem(OrvelCmdItemDefs::VALUE, 5);
 
   EXPECT_EQ(FailureOf(&OrvelCmdItem::AsIntegerSet),
-    "Item VALUE holds an integer (5) and cannot be read as a set of integers.");
+            "Item VALUE holds an integer (5) and cannot be read as a set of integers.");
   EXPECT_EQ(FailureOf(&OrvelCmdItem::ReferencedCommand),
-    "Item VALUE holds an integer (5) and cannot be read as a reference.");
+            "Item VALUE holds an integer (5) and cannot be read as a reference.");
 }
 
 TEST_F(OrvelCmdItemTest, ReadsADoubleAsItselfAndAsItsShortestText)
@@ -124,8 +118,7 @@ TEST_F(OrvelCmdItemTest, DoesNotRoundADouble)
 {
   m_command.AddDoubleItem(OrvelCmdItemDefs::VALUE, 2.5);
 
-  EXPECT_EQ(
-    FailureOf(&OrvelCmdItem::AsInteger), "Item VALUE holds a double (2.5) and cannot be read as an integer.");
+  EXPECT_EQ(FailureOf(&OrvelCmdItem::AsInteger), "Item VALUE holds a double (2.5) and cannot be read as an integer.");
 }
 
 TEST_F(OrvelCmdItemTest, DoesNotReadADoubleBeyondTheIntegersAsAnInteger)
@@ -133,15 +126,14 @@ TEST_F(OrvelCmdItemTest, DoesNotReadADoubleBeyondTheIntegersAsAnInteger)
   m_command.AddDoubleItem(OrvelCmdItemDefs::VALUE, 2147483648.0);
 
   EXPECT_EQ(FailureOf(&OrvelCmdItem::AsInteger),
-    "Item VALUE holds a double (2147483648) and cannot be read as an integer.");
+            "Item VALUE holds a double (2147483648) and cannot be read as an integer.");
 }
 
 TEST_F(OrvelCmdItemTest, DoesNotReadANaNAsAnInteger)
 {
   m_command.AddDoubleItem(OrvelCmdItemDefs::VALUE, std::numeric_limits<double>::quiet_NaN());
 
-  EXPECT_EQ(
-    FailureOf(&OrvelCmdItem::AsInteger), "Item VALUE holds a double (nan) and cannot be read as an integer.");
+  EXPECT_EQ(FailureOf(&OrvelCmdItem::AsInteger), "Item VALUE holds a double (nan) and cannot be read as an integer.");
 }
 
 TEST_F(OrvelCmdItemTest, DoesNotReadADoubleAsAnEnumerator)
@@ -149,7 +141,7 @@ TEST_F(OrvelCmdItemTest, DoesNotReadADoubleAsAnEnumerator)
   m_command.AddDoubleItem(OrvelCmdItemDefs::VALUE, 77.0);
 
   EXPECT_EQ(FailureOf(&OrvelCmdItem::AsEnumValue),
-    "Item VALUE holds a double (77) and cannot be read as an enumerator.");
+            "Item VALUE holds a double (77) and cannot be read as an enumerator.");
 }
 
 TEST_F(OrvelCmdItemTest, ReadsAnEnumeratorAsItsNumber)
@@ -184,7 +176,7 @@ TEST_F(OrvelCmdItemTest, ReadsAListOfTextsAsTheTextsWithBlanksBetween)
 
   EXPECT_EQ(Item().AsString(), "wall inlet");
   EXPECT_EQ(FailureOf(&OrvelCmdItem::AsInteger),
-    "Item VALUE holds a list of texts (wall inlet) and cannot be read as an integer.");
+            "Item VALUE holds a list of texts (wall inlet) and cannot be read as an integer.");
 }
 
 TEST_F(OrvelCmdItemTest, HoldsAnEmptyListOfTexts)
@@ -205,7 +197,7 @@ TEST_F(OrvelCmdItemTest, GivesASetOfIntegersInAscendingOrder)
   EXPECT_EQ(Item().AsString(), "-1 7 30");
   EXPECT_FALSE(Item().IsStringList());
   EXPECT_EQ(FailureOf(&OrvelCmdItem::AsDouble),
-    "Item VALUE holds a set of integers (-1 7 30) and cannot be read as a double.");
+            "Item VALUE holds a set of integers (-1 7 30) and cannot be read as a double.");
 }
 
 TEST_F(OrvelCmdItemTest, NamesBothTypesWhenAReferenceIsAskedForANumber)
@@ -215,7 +207,7 @@ TEST_F(OrvelCmdItemTest, NamesBothTypesWhenAReferenceIsAskedForANumber)
   m_command.AddReferenceItem(OrvelCmdItemDefs::VALUE, target);
 
   EXPECT_EQ(FailureOf(&OrvelCmdItem::AsEnumValue),
-    "Item VALUE holds a reference (mass) and cannot be read as an enumerator.");
+            "Item VALUE holds a reference (mass) and cannot be read as an enumerator.");
 }
 
 TEST_F(OrvelCmdItemTest, FailsWithARuntimeError)

@@ -12,7 +12,7 @@ bool HasMergeFormat(const OrvelCmd& command)
   return OrvelCmd_Util::has_command_enum_with_value(command, OrvelCmdItemDefs::FORMAT, merge);
 }
 
-} // namespace
+}  // namespace
 
 TEST(OrvelCmd_UtilTest, FindsAnEnumeratorOfTheItem)
 {

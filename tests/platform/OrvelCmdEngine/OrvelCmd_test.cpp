@@ -25,7 +25,7 @@ std::string FailureOf(Action action)
   return "nothing was thrown";
 }
 
-} // namespace
+}  // namespace
 
 TEST(OrvelCmdTest, HasItsKindAndNoItemAtFirst)
 {
@@ -106,9 +106,9 @@ TEST(OrvelCmdTest, NamesTheItemAndThePositionThatIsNotThere)
   command.AddIntegerItem(OrvelCmdItemDefs::VALUE, 2);
 
   EXPECT_EQ(FailureOf([&command] { command.Item(OrvelCmdItemDefs::VALUE, 2); }),
-    "Item VALUE has 2 entries, so that there is none at position 2.");
+            "Item VALUE has 2 entries, so that there is none at position 2.");
   EXPECT_EQ(FailureOf([&command] { command.Item(OrvelCmdItemDefs::FILE, 0); }),
-    "Item FILE has 0 entries, so that there is none at position 0.");
+            "Item FILE has 0 entries, so that there is none at position 0.");
 }
 
 TEST(OrvelCmdTest, RefusesANumberThatIsNoKindOfItem)
@@ -116,10 +116,9 @@ TEST(OrvelCmdTest, RefusesANumberThatIsNoKindOfItem)
   OrvelCmd command(OrvelCmdDefs::DRESP);
 
   EXPECT_EQ(FailureOf([&command] { command.AddIntegerItem(OrvelCmdItemDefs::ITEM_NONE, 1); }),
-    "CmdItem 39 is no kind of item.");
-  EXPECT_EQ(
-    FailureOf([&command] { command.AddStringItem(static_cast<OrvelCmdItemDefs::CmdItem>(-1), "x"); }),
-    "CmdItem -1 is no kind of item.");
+            "CmdItem 39 is no kind of item.");
+  EXPECT_EQ(FailureOf([&command] { command.AddStringItem(static_cast<OrvelCmdItemDefs::CmdItem>(-1), "x"); }),
+            "CmdItem -1 is no kind of item.");
   EXPECT_FALSE(command.HasItem(OrvelCmdItemDefs::ITEM_NONE));
 }
 
@@ -128,6 +127,6 @@ TEST(OrvelCmdTest, RefusesAReferenceAsItsName)
   OrvelCmd command(OrvelCmdDefs::DRESP);
 
   EXPECT_EQ(FailureOf([&command] { command.AddReferenceItem(OrvelCmdItemDefs::ID_NAME, command); }),
-    "A reference cannot be the ID_NAME of a command.");
+            "A reference cannot be the ID_NAME of a command.");
   EXPECT_FALSE(command.HasItem(OrvelCmdItemDefs::ID_NAME));
 }

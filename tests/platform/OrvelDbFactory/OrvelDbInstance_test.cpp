@@ -13,8 +13,7 @@ TEST(OrvelDbInstanceTest, LeadsToTheDatabaseThatIsAssigned)
   database.GetIdMapsPool().GetIdMap(KLV_IdType::face_group).Add("outlet");
 
   OrvelDbInstance::s_Singleton = &database;
-  const bool has_outlet =
-    OrvelDbInstance::s_Singleton->GetIdMapsPool().GetIdMap(KLV_IdType::face_group).Has("outlet");
+  const bool has_outlet = OrvelDbInstance::s_Singleton->GetIdMapsPool().GetIdMap(KLV_IdType::face_group).Has("outlet");
   OrvelDbInstance::s_Singleton = nullptr;
 
   EXPECT_TRUE(has_outlet);

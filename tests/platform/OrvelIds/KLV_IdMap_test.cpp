@@ -98,15 +98,9 @@ TEST(KLV_IdMapTest, AsksADerivedMapThroughItsBase)
   class AllKnown : public KLV_IdMap
   {
   public:
-    bool Has(const std::string&) const override
-    {
-      return true;
-    }
+    bool Has(const std::string&) const override { return true; }
 
-    std::int32_t Lookup(const std::string&) override
-    {
-      return 7;
-    }
+    std::int32_t Lookup(const std::string&) override { return 7; }
   };
 
   AllKnown all_known;

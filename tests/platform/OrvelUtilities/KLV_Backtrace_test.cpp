@@ -28,7 +28,7 @@ std::size_t CountFramesBelow(int depth)
   return CountFramesBelow(depth - 1) + nothing;
 }
 
-} // namespace
+}  // namespace
 
 TEST(KLV_BacktraceTest, GivesATextForEveryFrame)
 {

@@ -23,10 +23,7 @@ namespace
 class KLV_LogMacrosTest : public testing::Test
 {
 protected:
-  ~KLV_LogMacrosTest() override
-  {
-    KLV_LogMacros::SetSink(nullptr);
-  }
+  ~KLV_LogMacrosTest() override { KLV_LogMacros::SetSink(nullptr); }
 
   void CollectInto(std::vector<KLV_LogRecord>& records)
   {
@@ -46,7 +43,7 @@ std::string CaptureDebug(const char* source, int line, const char* prefix, const
   return testing::internal::GetCapturedStderr();
 }
 
-} // namespace
+}  // namespace
 
 TEST_F(KLV_LogMacrosTest, HandsTheSinkWhatTheCallerGave)
 {
@@ -111,8 +108,7 @@ TEST_F(KLV_LogMacrosTest, WritesSourceLinePrefixAndTextToTheErrorStreamByDefault
 {
   const std::string line = CaptureDebug("win\\commands", 104, "[%T|%n|%P|Orvel|MODEL_] ", "hello");
 
-  EXPECT_THAT(line, AllOf(HasSubstr("[debug]"),
-                      EndsWith("win\\commands:104: [%T|%n|%P|Orvel|MODEL_] hello\n")));
+  EXPECT_THAT(line, AllOf(HasSubstr("[debug]"), EndsWith("win\\commands:104: [%T|%n|%P|Orvel|MODEL_] hello\n")));
 }
 
 TEST_F(KLV_LogMacrosTest, WritesToTheErrorStreamAgainAfterASinkIsTakenOff)
