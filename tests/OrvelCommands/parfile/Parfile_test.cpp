@@ -81,15 +81,6 @@ TEST(Parfile, HasNoVirtualOperationButItsDestructor)
   EXPECT_EQ(PlaceAfterDestructor(&Smooth_Parfile::ValidateModelIds), 2U);
 }
 
-TEST(Parfile, DeletesAWholeAggregate)
-{
-  RecordingStorage storage = CompleteJob();
-  auto parfile = std::make_unique<Gyre_Parfile>(storage);
-  parfile->Load();
-  const std::unique_ptr<Parfile> base = std::move(parfile);
-  SUCCEED() << "the leak checker tells whether all commands are deleted";
-}
-
 TEST(GyreParfile, TouchesItsStorageNeitherWhenItIsConstructedNorWhenItIsDestroyed)
 {
   RecordingStorage storage = CompleteJob();

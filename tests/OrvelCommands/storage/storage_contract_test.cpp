@@ -24,8 +24,8 @@ namespace
 // Texts that a storage may meet: none, with a conversion, with lines, of more than one byte a character, long.
 const std::vector<std::string>& Texts()
 {
-  static const std::vector<std::string> texts = {"one", "", "100 % of %s", "line\nline\ttab", "\xc3\xa4\xe2\x82\xac",
-                                                 std::string(5000, 'x')};
+  static const std::vector<std::string> texts = {
+    "one", "", "100 % of %s", "line\nline\ttab", "\xc3\xa4\xe2\x82\xac", std::string(5000, 'x')};
   return texts;
 }
 
@@ -268,8 +268,8 @@ TYPED_TEST(StorageContract, ReadsTextsFromIndexOneUpToTheirNumber)
   {
     texts.push_back(this->Keys("DRESP_", "alpha").Text("UPDATE_ID_", index));
   }
-  EXPECT_THAT(texts, ElementsAre("one", "", "100 % of %s", "line\nline\ttab", "\xc3\xa4\xe2\x82\xac",
-                                 std::string(5000, 'x')));
+  EXPECT_THAT(texts,
+              ElementsAre("one", "", "100 % of %s", "line\nline\ttab", "\xc3\xa4\xe2\x82\xac", std::string(5000, 'x')));
 }
 
 TYPED_TEST(StorageContract, ReadsListsFromIndexOneUpToTheirNumber)
@@ -322,8 +322,8 @@ TYPED_TEST(StorageContract, ReplacesWhatTheOutputsHeld)
 
 TYPED_TEST(StorageContract, TellsWhetherAKeyIsPresentWithoutAFailureOnACommandThatExists)
 {
-  const std::vector<std::string> keys = {"TYPE_", "LOADCASE_", "UPDATE_ID_", "FILE_", "CS_REF_", "DV_CONSTRAINT_",
-                                         "TYPE",  "TYPE_ ",    "type_",      "",      ".",       "/",
+  const std::vector<std::string> keys = {"TYPE_", "LOADCASE_",  "UPDATE_ID_", "FILE_", "CS_REF_", "DV_CONSTRAINT_",
+                                         "TYPE",  "TYPE_ ",     "type_",      "",      ".",       "/",
                                          "x/y",   "no such key"};
   std::vector<std::string> present;
   for (const std::string& key : keys)
@@ -538,8 +538,7 @@ TEST(StorageDifferences, Hdf5FileReadsAListOfDoublesLikeAnyValue)
   StoredBackend backend;
   backend.Storage().AddValue("STOP_", "end", "LIST_", vtmDoubleList, std::vector<double>{0.25, 0.75});
   EXPECT_THAT(KeysOf(backend.Storage(), "STOP_", "end").Doubles("LIST_"), ElementsAre(0.25, 0.75));
-  EXPECT_EQ(FailureOf([&] { KeysOf(backend.Storage(), "STOP_", "end").Doubles("no such key"); }),
-            AbsentValueFailure());
+  EXPECT_EQ(FailureOf([&] { KeysOf(backend.Storage(), "STOP_", "end").Doubles("no such key"); }), AbsentValueFailure());
 }
 
 // A VtmType that has no values.

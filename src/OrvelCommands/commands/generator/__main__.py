@@ -5,8 +5,9 @@ import difflib
 import sys
 from pathlib import Path
 
-from outputs import COMMAND_LINE, GENERATED, GENERATOR, TemplateError, make_outputs
+from outputs import COMMAND_LINE, GENERATED, GENERATOR, make_outputs
 from table import TableError, read_tables
+from template_text import TemplateError
 
 LIBRARY = Path(__file__).resolve().parents[2]
 TABLES = ("gyre_commands", "smooth_commands")

@@ -1,6 +1,6 @@
 """What each kind of field contributes to the generated code, as template text."""
 
-from string import Template
+from template_text import substitute
 
 CPP_TYPES = {
     "int32": "int",
@@ -77,7 +77,7 @@ class FieldKind:
             text = {"ACCESSORS": text + self.HAS_ACCESSOR, "MEMBERS": self.HAS_MEMBER + text}.get(piece, text)
         if self.field.presence == "repeated":
             text = {"ACCESSORS": text + self.NUM_ACCESSOR, "MEMBERS": self.NUM_MEMBER + text}.get(piece, text)
-        return Template(text).substitute(self.values)
+        return substitute(f"{type(self).__name__}.{piece}", text, self.values)
 
 
 class Value(FieldKind):
@@ -166,7 +166,7 @@ class Reference(FieldKind):
     LINK = "  references.$step(\"$key\", &$aggregate::Get$target, ${self_companion}self.m_$key);\n"
 
     def render_link(self, aggregate):
-        return Template(self.LINK).substitute(self.values, aggregate=aggregate)
+        return substitute(f"{type(self).__name__}.LINK", self.LINK, {**self.values, "aggregate": aggregate})
 
 
 class ReferenceList(Reference):

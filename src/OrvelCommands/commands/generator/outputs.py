@@ -1,36 +1,18 @@
 """Puts the generated files together from the tables and the templates."""
 
-from pathlib import Path
-from string import Template
-
 from fields import make_field_kind
+from template_text import fill, substitute
 
 COMMAND_LINE = "./run generate"
 GENERATOR = "src/OrvelCommands/commands/generator"
 GENERATED = "commands/LocalGenerated"
-TEMPLATES = Path(__file__).parent / "templates"
-
-BANNER = Template("/// Generated from $tables\n"
-                  "/// by $generator. Do not edit: change the table and run `$command_line`.")
-
-
-class TemplateError(Exception):
-    """A wrong template. The text names the file and what is wrong."""
-
-
-def fill(template, **values):
-    """The text of a template file. An unknown or broken placeholder raises TemplateError."""
-    try:
-        return Template((TEMPLATES / template).read_text(encoding="utf-8")).substitute(values)
-    except KeyError as error:
-        raise TemplateError(f"templates/{template}: there is no value for the placeholder {error}") from error
-    except ValueError as error:
-        raise TemplateError(f"templates/{template}: {error}") from error
+BANNER = ("/// Generated from $tables\n"
+          "/// by $generator. Do not edit: change the table and run `$command_line`.")
 
 
 def banner(*tables):
     names = " and ".join(f"{table.name}.toml" for table in tables)
-    return BANNER.substitute(tables=names, generator=GENERATOR, command_line=COMMAND_LINE)
+    return substitute("BANNER", BANNER, {"tables": names, "generator": GENERATOR, "command_line": COMMAND_LINE})
 
 
 class CommandText:
