@@ -100,3 +100,15 @@ inline std::vector<std::string> NamesOf(const OrvelParfileStorage& storage, cons
   }
   return names;
 }
+
+/// The names of loaded commands.
+template <class Command>
+std::vector<std::string> IdsOf(const std::vector<Command*>& commands)
+{
+  std::vector<std::string> ids;
+  for (const Command* command : commands)
+  {
+    ids.push_back(command->GetID_NAME_());
+  }
+  return ids;
+}

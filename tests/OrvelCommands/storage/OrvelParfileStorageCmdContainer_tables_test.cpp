@@ -42,18 +42,30 @@ struct CommandRow
   Counting counting;
 };
 
+// clang-format off
 constexpr CommandRow kCommands[] = {
-  {"MODEL_", 0, 39, -1, Counting::Plain},          {"DRESP_", 3, 39, -1, Counting::Plain},
-  {"OPERATOR_", 4, 39, -1, Counting::Plain},       {"OBJ_FUNC_", 5, 39, -1, Counting::Plain},
-  {"CONSTRAINT_", 6, 39, -1, Counting::Plain},     {"DV_CONSTRAINT_", 7, 39, -1, Counting::Plain},
-  {"ALGO_", 9, 39, -1, Counting::Plain},           {"OPT_PARAM_", 10, 39, -1, Counting::Plain},
-  {"STOP_", 11, 39, -1, Counting::Plain},          {"MESH_SMOOTH_", 8, 39, -1, Counting::Plain},
-  {"OUTPUT_", 12, 39, -1, Counting::Plain},        {"SMOOTH_", 13, 39, -1, Counting::Plain},
-  {"AS_TOPO_OC_", 10, 39, -1, Counting::Plain},    {"AS_TOPO_SENS_", 10, 39, -1, Counting::Plain},
-  {"AS_SHAPE_SENS_", 10, 39, -1, Counting::Plain}, {"SCALING_CURVE_", 16, 39, -1, Counting::Plain},
-  {"FILTER_", 17, 39, -1, Counting::Plain},        {"ELEMENT_GROUP_", 1, 1, 0, Counting::Filtered},
-  {"NODE_GROUP_", 1, 1, 2, Counting::Filtered},    {"DV_", 2, 39, -1, Counting::DesignVariable},
+  {"MODEL_",         0,  39, -1, Counting::Plain},
+  {"DRESP_",         3,  39, -1, Counting::Plain},
+  {"OPERATOR_",      4,  39, -1, Counting::Plain},
+  {"OBJ_FUNC_",      5,  39, -1, Counting::Plain},
+  {"CONSTRAINT_",    6,  39, -1, Counting::Plain},
+  {"DV_CONSTRAINT_", 7,  39, -1, Counting::Plain},
+  {"ALGO_",          9,  39, -1, Counting::Plain},
+  {"OPT_PARAM_",     10, 39, -1, Counting::Plain},
+  {"STOP_",          11, 39, -1, Counting::Plain},
+  {"MESH_SMOOTH_",   8,  39, -1, Counting::Plain},
+  {"OUTPUT_",        12, 39, -1, Counting::Plain},
+  {"SMOOTH_",        13, 39, -1, Counting::Plain},
+  {"AS_TOPO_OC_",    10, 39, -1, Counting::Plain},
+  {"AS_TOPO_SENS_",  10, 39, -1, Counting::Plain},
+  {"AS_SHAPE_SENS_", 10, 39, -1, Counting::Plain},
+  {"SCALING_CURVE_", 16, 39, -1, Counting::Plain},
+  {"FILTER_",        17, 39, -1, Counting::Plain},
+  {"ELEMENT_GROUP_", 1,  1,  0,  Counting::Filtered},
+  {"NODE_GROUP_",    1,  1,  2,  Counting::Filtered},
+  {"DV_",            2,  39, -1, Counting::DesignVariable},
 };
+// clang-format on
 
 Defs::Cmd Kind(int number)
 {
@@ -117,61 +129,63 @@ struct DirectRow
   Value value;
 };
 
+// clang-format off
 constexpr DirectRow kDirectKeys[] = {
-  {"MODEL_", 0, "FILE_", 2, Value::Text},
-  {"DV_", 2, "ELEMENT_GROUP_", 5, Value::Text},
-  {"DV_", 2, "NODE_GROUP_", 6, Value::Text},
-  {"DV_", 2, "INITIAL_", 10, Value::Double},
-  {"DV_", 2, "INITIAL_DV_FIELD_", 2, Value::Text},
-  {"DV_", 2, "FILTER_", 24, Value::Reference},
-  {"DV_", 2, "TYPE_", 1, Value::Enumerator},
-  {"DRESP_", 3, "TYPE_", 1, Value::Enumerator},
-  {"DRESP_", 3, "ELEMENT_GROUP_", 5, Value::Text},
-  {"DRESP_", 3, "NODE_GROUP_", 6, Value::Text},
-  {"DRESP_", 3, "UPDATE_TYPE_", 28, Value::Enumerator},
-  {"DRESP_", 3, "UPDATE_ID_", 29, Value::Text},
-  {"DRESP_", 3, "LOADCASE_", 33, Value::Integer},
-  {"DRESP_", 3, "FILE_", 2, Value::Text},
-  {"DRESP_", 3, "CS_REF_", 37, Value::Text},
-  {"OPERATOR_", 4, "TYPE_", 1, Value::Enumerator},
-  {"OPERATOR_", 4, "UPDATE_TYPE_", 28, Value::Enumerator},
-  {"OPERATOR_", 4, "UPDATE_ID_", 29, Value::Text},
-  {"OBJ_FUNC_", 5, "TARGET_", 9, Value::Enumerator},
-  {"CONSTRAINT_", 6, "TYPE_", 1, Value::Enumerator},
-  {"CONSTRAINT_", 6, "VALUE_", 10, Value::Double},
-  {"CONSTRAINT_", 6, "COEFFICIENT_", 25, Value::Double},
-  {"CONSTRAINT_", 6, "MAGNITUDE_", 34, Value::Enumerator},
-  {"DV_CONSTRAINT_", 7, "DVC_TYPE_", 1, Value::Enumerator},
-  {"DV_CONSTRAINT_", 7, "ELEMENT_GROUP_", 5, Value::Text},
-  {"DV_CONSTRAINT_", 7, "NODE_GROUP_", 6, Value::Text},
-  {"DV_CONSTRAINT_", 7, "SCALING_CURVE_", 24, Value::Reference},
-  {"DV_CONSTRAINT_", 7, "RADIUS_", 10, Value::Double},
-  {"MESH_SMOOTH_", 8, "METHOD_", 18, Value::Enumerator},
-  {"ALGO_", 9, "STRATEGY_", 18, Value::Enumerator},
-  {"ALGO_", 9, "OBJ_FUNC_", 15, Value::Reference},
-  {"ALGO_", 9, "CONSTRAINT_", 16, Value::Reference},
-  {"ALGO_", 9, "DV_CONSTRAINT_", 17, Value::Reference},
-  {"ALGO_", 9, "STOP_", 19, Value::Reference},
-  {"ALGO_", 9, "MESH_SMOOTH_", 20, Value::Reference},
-  {"ALGO_", 9, "OPT_PARAM_", 22, Value::Reference},
-  {"ALGO_", 9, "AS_TOPO_SENS_", 22, Value::Reference},
-  {"ALGO_", 9, "AS_SHAPE_SENS_", 22, Value::Reference},
-  {"ALGO_", 9, "AS_TOPO_OC_", 22, Value::Reference},
-  {"STOP_", 11, "ITER_MAX_", 21, Value::Integer},
-  {"OUTPUT_", 12, "FILENAME_", 2, Value::Text},
-  {"OUTPUT_", 12, "FORMAT_", 30, Value::Enumerator},
-  {"OUTPUT_", 12, "TYPE_", 1, Value::Enumerator},
-  {"OUTPUT_", 12, "ELEMENT_GROUP_", 5, Value::Text},
-  {"SCALING_CURVE_", 16, "TYPE_", 1, Value::Enumerator},
-  {"SCALING_CURVE_", 16, "UPDATE_ID_", 29, Value::Text},
-  {"SCALING_CURVE_", 16, "MIN_", 11, Value::Double},
-  {"SCALING_CURVE_", 16, "MAX_", 12, Value::Double},
-  {"SCALING_CURVE_", 16, "PENALISATION_", 10, Value::Double},
-  {"SCALING_CURVE_", 16, "DATA_SHIFT_", 25, Value::Double},
-  {"FILTER_", 17, "METHOD_", 1, Value::Enumerator},
-  {"FILTER_", 17, "RADIUS_", 10, Value::Double},
-  {"FILTER_", 17, "ALPHA_", 9, Value::Double},
+  {"MODEL_",         0,  "FILE_",             2,  Value::Text},
+  {"DV_",            2,  "ELEMENT_GROUP_",    5,  Value::Text},
+  {"DV_",            2,  "NODE_GROUP_",       6,  Value::Text},
+  {"DV_",            2,  "INITIAL_",          10, Value::Double},
+  {"DV_",            2,  "INITIAL_DV_FIELD_", 2,  Value::Text},
+  {"DV_",            2,  "FILTER_",           24, Value::Reference},
+  {"DV_",            2,  "TYPE_",             1,  Value::Enumerator},
+  {"DRESP_",         3,  "TYPE_",             1,  Value::Enumerator},
+  {"DRESP_",         3,  "ELEMENT_GROUP_",    5,  Value::Text},
+  {"DRESP_",         3,  "NODE_GROUP_",       6,  Value::Text},
+  {"DRESP_",         3,  "UPDATE_TYPE_",      28, Value::Enumerator},
+  {"DRESP_",         3,  "UPDATE_ID_",        29, Value::Text},
+  {"DRESP_",         3,  "LOADCASE_",         33, Value::Integer},
+  {"DRESP_",         3,  "FILE_",             2,  Value::Text},
+  {"DRESP_",         3,  "CS_REF_",           37, Value::Text},
+  {"OPERATOR_",      4,  "TYPE_",             1,  Value::Enumerator},
+  {"OPERATOR_",      4,  "UPDATE_TYPE_",      28, Value::Enumerator},
+  {"OPERATOR_",      4,  "UPDATE_ID_",        29, Value::Text},
+  {"OBJ_FUNC_",      5,  "TARGET_",           9,  Value::Enumerator},
+  {"CONSTRAINT_",    6,  "TYPE_",             1,  Value::Enumerator},
+  {"CONSTRAINT_",    6,  "VALUE_",            10, Value::Double},
+  {"CONSTRAINT_",    6,  "COEFFICIENT_",      25, Value::Double},
+  {"CONSTRAINT_",    6,  "MAGNITUDE_",        34, Value::Enumerator},
+  {"DV_CONSTRAINT_", 7,  "DVC_TYPE_",         1,  Value::Enumerator},
+  {"DV_CONSTRAINT_", 7,  "ELEMENT_GROUP_",    5,  Value::Text},
+  {"DV_CONSTRAINT_", 7,  "NODE_GROUP_",       6,  Value::Text},
+  {"DV_CONSTRAINT_", 7,  "SCALING_CURVE_",    24, Value::Reference},
+  {"DV_CONSTRAINT_", 7,  "RADIUS_",           10, Value::Double},
+  {"MESH_SMOOTH_",   8,  "METHOD_",           18, Value::Enumerator},
+  {"ALGO_",          9,  "STRATEGY_",         18, Value::Enumerator},
+  {"ALGO_",          9,  "OBJ_FUNC_",         15, Value::Reference},
+  {"ALGO_",          9,  "CONSTRAINT_",       16, Value::Reference},
+  {"ALGO_",          9,  "DV_CONSTRAINT_",    17, Value::Reference},
+  {"ALGO_",          9,  "STOP_",             19, Value::Reference},
+  {"ALGO_",          9,  "MESH_SMOOTH_",      20, Value::Reference},
+  {"ALGO_",          9,  "OPT_PARAM_",        22, Value::Reference},
+  {"ALGO_",          9,  "AS_TOPO_SENS_",     22, Value::Reference},
+  {"ALGO_",          9,  "AS_SHAPE_SENS_",    22, Value::Reference},
+  {"ALGO_",          9,  "AS_TOPO_OC_",       22, Value::Reference},
+  {"STOP_",          11, "ITER_MAX_",         21, Value::Integer},
+  {"OUTPUT_",        12, "FILENAME_",         2,  Value::Text},
+  {"OUTPUT_",        12, "FORMAT_",           30, Value::Enumerator},
+  {"OUTPUT_",        12, "TYPE_",             1,  Value::Enumerator},
+  {"OUTPUT_",        12, "ELEMENT_GROUP_",    5,  Value::Text},
+  {"SCALING_CURVE_", 16, "TYPE_",             1,  Value::Enumerator},
+  {"SCALING_CURVE_", 16, "UPDATE_ID_",        29, Value::Text},
+  {"SCALING_CURVE_", 16, "MIN_",              11, Value::Double},
+  {"SCALING_CURVE_", 16, "MAX_",              12, Value::Double},
+  {"SCALING_CURVE_", 16, "PENALISATION_",     10, Value::Double},
+  {"SCALING_CURVE_", 16, "DATA_SHIFT_",       25, Value::Double},
+  {"FILTER_",        17, "METHOD_",           1,  Value::Enumerator},
+  {"FILTER_",        17, "RADIUS_",           10, Value::Double},
+  {"FILTER_",        17, "ALPHA_",            9,  Value::Double},
 };
+// clang-format on
 
 // Two values of the row's type, which are 7 and 8 in one form or another.
 void AddTwoValues(OrvelCmdContainer& container, OrvelCmd& command, Items::CmdItem item, Value type)
@@ -225,7 +239,14 @@ struct GroupRow
   int format;
 };
 
-constexpr GroupRow kGroupKeys[] = {{"MERGE_", 77}, {"SUBTRACT_", 83}, {"INTERSECT_", 73}, {"XOR_", 88}};
+// clang-format off
+constexpr GroupRow kGroupKeys[] = {
+  {"MERGE_",     77},
+  {"SUBTRACT_",  83},
+  {"INTERSECT_", 73},
+  {"XOR_",       88},
+};
+// clang-format on
 
 void AddGroup(OrvelCmdContainer& container, const std::string& id, int format)
 {
@@ -246,12 +267,18 @@ struct FilteredRow
   int refers_to;
 };
 
+// clang-format off
 constexpr FilteredRow kFilteredKeys[] = {
-  {"OPERATOR_", 4, "DRESP_", 24, 24, 3},    {"OPERATOR_", 4, "DRESP_WEIGHT_", 25, 24, 3},
-  {"OPERATOR_", 4, "OPERATOR_", 24, 24, 4}, {"OPERATOR_", 4, "OPERATOR_WEIGHT_", 25, 24, 4},
-  {"OBJ_FUNC_", 5, "DRESP_", 8, 8, 3},      {"OBJ_FUNC_", 5, "OPERATOR_", 8, 8, 4},
-  {"CONSTRAINT_", 6, "DRESP_", 8, 8, 3},    {"CONSTRAINT_", 6, "OPERATOR_", 8, 8, 4},
+  {"OPERATOR_",   4, "DRESP_",           24, 24, 3},
+  {"OPERATOR_",   4, "DRESP_WEIGHT_",    25, 24, 3},
+  {"OPERATOR_",   4, "OPERATOR_",        24, 24, 4},
+  {"OPERATOR_",   4, "OPERATOR_WEIGHT_", 25, 24, 4},
+  {"OBJ_FUNC_",   5, "DRESP_",           8,  8,  3},
+  {"OBJ_FUNC_",   5, "OPERATOR_",        8,  8,  4},
+  {"CONSTRAINT_", 6, "DRESP_",           8,  8,  3},
+  {"CONSTRAINT_", 6, "OPERATOR_",        8,  8,  4},
 };
+// clang-format on
 
 // The keys that read the command to which the first OPTIMIZE refers.
 
@@ -261,10 +288,17 @@ struct ReferencedRow
   int target_item;
 };
 
+// clang-format off
 constexpr ReferencedRow kReferencedKeys[] = {
-  {"MIN_", 11},       {"MAX_", 12},           {"ALGORITHM_", 18},    {"MOVE_", 10},
-  {"ASYM_MOVE_", 28}, {"ASYM_MOVE_LOW_", 35}, {"ASYM_MOVE_UP_", 36},
+  {"MIN_",           11},
+  {"MAX_",           12},
+  {"ALGORITHM_",     18},
+  {"MOVE_",          10},
+  {"ASYM_MOVE_",     28},
+  {"ASYM_MOVE_LOW_", 35},
+  {"ASYM_MOVE_UP_",  36},
 };
+// clang-format on
 
 constexpr const char* kCommandsOfOptParam[] = {"OPT_PARAM_", "AS_TOPO_OC_", "AS_TOPO_SENS_", "AS_SHAPE_SENS_"};
 
