@@ -2,12 +2,12 @@
 // subtraction, an operator over responses and another operator. Prints the commands to the standard output.
 
 #include "OrvelCmdEngine/OrvelCmdContainer.h"
-#include "OrvelCommands/foundation/KLV_Failure.h"
 #include "OrvelCommands/parfile/for_each_command.h"
 #include "OrvelCommands/parfile/Gyre_Parfile.h"
 #include "OrvelCommands/storage/OrvelParfileStorageCmdContainer.h"
 #include "OrvelUtilities/KLV_LogMacros.h"
 
+#include <exception>
 #include <iostream>
 
 using Defs = OrvelCmdDefs;
@@ -137,9 +137,9 @@ int main()
     });
     orvel::ForEachCommand(parfile, [](const auto& command) { command.ToString(); });
   }
-  catch (const KLV_Failure& failure)
+  catch (const std::exception& error)  // a failure of the library or of an item that holds another type
   {
-    std::cerr << failure.what() << "\n";
+    std::cerr << error.what() << "\n";
     return 1;
   }
 }
