@@ -436,3 +436,18 @@ TEST(Output, IsAssignedEveryMemberAndSurvivesAssignmentToItself)
   EXPECT_EQ(other.GetID_NAME_(), "");
   ExpectDefaults(other);
 }
+
+TEST(Output, KeepsItsThreeSwitchesApart)
+{
+  RecordingStorage storage;
+  storage.KeepOutputsOfAbsentKeys();
+  auto& keys = storage.Command("OUTPUT_", "switches");
+  keys["INVERT_"] = {101};
+  keys["DESIGN_ONLY_"] = {102};
+  keys["KEEP_POST_DATA_"] = {103};
+  OUTPUT_ command;
+  command.Load(storage, "switches");
+  EXPECT_EQ(command.GetINVERT_(), 101);
+  EXPECT_EQ(command.GetDESIGN_ONLY_(), 102);
+  EXPECT_EQ(command.GetKEEP_POST_DATA_(), 103);
+}

@@ -1058,3 +1058,48 @@ TEST(Smooth, IsAssignedEveryMemberAndSurvivesAssignmentToItself)
   EXPECT_EQ(other.GetID_NAME_(), "");
   ExpectDefaults(other);
 }
+
+TEST(Smooth, KeepsItsEighteenSwitchesApart)
+{
+  RecordingStorage storage;
+  storage.KeepOutputsOfAbsentKeys();
+  auto& keys = storage.Command("SMOOTH_", "switches");
+  keys["ALL_ITERATIONS_"] = {101};
+  keys["VTM_RESULT_"] = {102};
+  keys["STL_GROUPS_"] = {103};
+  keys["VTF_ORGMODEL_"] = {104};
+  keys["SLICES_"] = {105};
+  keys["SLICE_PRIMARY_"] = {106};
+  keys["SLICE_INTERSECTION_"] = {107};
+  keys["SLICE_REDUCTION_"] = {108};
+  keys["SLICE_OFFSET_"] = {109};
+  keys["SLICE_FILTER_CURVES_"] = {110};
+  keys["BORDER_"] = {111};
+  keys["NO_SORT_"] = {112};
+  keys["REDUCTION_"] = {113};
+  keys["MIXED_MESH_"] = {114};
+  keys["EXCLUDE_LOADED_"] = {115};
+  keys["IF_SMOOTHING_"] = {116};
+  keys["IF_SMOOTH_FROZEN_"] = {117};
+  keys["SHRINKAGE_CORRECTION_"] = {118};
+  SMOOTH_ command;
+  command.Load(storage, "switches");
+  EXPECT_EQ(command.GetALL_ITERATIONS_(), 101);
+  EXPECT_EQ(command.GetVTM_RESULT_(), 102);
+  EXPECT_EQ(command.GetSTL_GROUPS_(), 103);
+  EXPECT_EQ(command.GetVTF_ORGMODEL_(), 104);
+  EXPECT_EQ(command.GetSLICES_(), 105);
+  EXPECT_EQ(command.GetSLICE_PRIMARY_(), 106);
+  EXPECT_EQ(command.GetSLICE_INTERSECTION_(), 107);
+  EXPECT_EQ(command.GetSLICE_REDUCTION_(), 108);
+  EXPECT_EQ(command.GetSLICE_OFFSET_(), 109);
+  EXPECT_EQ(command.GetSLICE_FILTER_CURVES_(), 110);
+  EXPECT_EQ(command.GetBORDER_(), 111);
+  EXPECT_EQ(command.GetNO_SORT_(), 112);
+  EXPECT_EQ(command.GetREDUCTION_(), 113);
+  EXPECT_EQ(command.GetMIXED_MESH_(), 114);
+  EXPECT_EQ(command.GetEXCLUDE_LOADED_(), 115);
+  EXPECT_EQ(command.GetIF_SMOOTHING_(), 116);
+  EXPECT_EQ(command.GetIF_SMOOTH_FROZEN_(), 117);
+  EXPECT_EQ(command.GetSHRINKAGE_CORRECTION_(), 118);
+}
