@@ -21,11 +21,7 @@ struct Options
 
 void Import(const Options& options)
 {
-  const std::filesystem::path place = ParameterFilePath(options.file);
-  if (std::filesystem::exists(place) && !options.force)
-  {
-    throw UnusableInput(place.string() + " exists already; --force replaces it");
-  }
+  const std::filesystem::path place = NewParameterFilePath(options.file, options.force);
   const std::vector<JobCommand> job = ReadJobDescription(options.job);
   NewParameterFile file(place);
   const std::vector<std::string> failures = file.Fill(job);

@@ -32,6 +32,7 @@ int Run(int argument_count, char** arguments)
   CLI::App tool("Parameter files of an optimization job: make them, check them, look into them.", "orvel-parfile");
   tool.set_version_flag("--version", ORVEL_VERSION);
   tool.require_subcommand(1);
+  AddInit(tool);
   AddImport(tool);
   AddCheck(tool);
   AddShow(tool);

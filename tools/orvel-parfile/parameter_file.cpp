@@ -113,6 +113,16 @@ fs::path ParameterFilePath(const fs::path& argument)
   return path;
 }
 
+fs::path NewParameterFilePath(const fs::path& argument, bool force)
+{
+  fs::path path = ParameterFilePath(argument);
+  if (fs::exists(path) && !force)
+  {
+    throw UnusableInput(path.string() + " exists already; --force replaces it");
+  }
+  return path;
+}
+
 std::unique_ptr<ParfileHdf5Storage> OpenParameterFile(const fs::path& path)
 {
   if (!fs::exists(path))

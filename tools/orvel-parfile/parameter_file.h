@@ -15,6 +15,10 @@
 /// Throws: UnusableInput for a file of another name, under which no storage would find it.
 std::filesystem::path ParameterFilePath(const std::filesystem::path& argument);
 
+/// The same for a file that is to be made.
+/// Throws: UnusableInput also for a file that is there, unless \p force.
+std::filesystem::path NewParameterFilePath(const std::filesystem::path& argument, bool force);
+
 /// Opens a parameter file for reading.
 /// Throws: UnusableInput with the failure of the storage when it cannot be opened.
 std::unique_ptr<ParfileHdf5Storage> OpenParameterFile(const std::filesystem::path& path);

@@ -107,7 +107,7 @@ Json ValueSchema(const schema::Field& field)
 {
   constexpr auto lowest = std::numeric_limits<std::int32_t>::min();
   constexpr auto highest = std::numeric_limits<std::int32_t>::max();
-  const Json integer = {{"type", "integer"}, {"minimum", lowest}, {"maximum", highest}};
+  Json integer = {{"type", "integer"}, {"minimum", lowest}, {"maximum", highest}};
   switch (field.type)
   {
     case vtmInteger: return integer;

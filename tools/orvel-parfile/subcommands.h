@@ -12,6 +12,7 @@ class App;
 /// Each adds one subcommand, which runs as the command line is parsed.
 /// Throws (while running): UnusableInput, FaultyInput, and what the library throws.
 /// @{
+void AddInit(CLI::App& tool);
 void AddImport(CLI::App& tool);
 void AddCheck(CLI::App& tool);
 void AddShow(CLI::App& tool);

@@ -23,9 +23,9 @@
 ///
 /// Only some kinds and keys come from parsed commands, as docs/parsed_commands.md lists; any other reads as absent.
 /// Nothing absent is a failure: reads of an unknown kind, id or key leave the output as each operation tells, counts
-/// are 0, names and references empty. An index outside 1 to the count reads nothing. Where the first `OPTIMIZE` names
-/// two or more design variables, one further `DV_` "__v_merged_DV" holds them all, and `ALGO_` refers to that one. The
-/// `VtmType` of a call plays no part.
+/// are 0, names and references empty. An index outside 1 to the count reads nothing, or the whole text of a list of
+/// groups. Where the first `OPTIMIZE` names two or more design variables, one further `DV_` "__v_merged_DV" holds them
+/// all, and `ALGO_` refers to that one. The `VtmType` of a call plays no part.
 ///
 /// Ownership: the container is not owned and must outlive the storage. Commands added to it later are counted, but not
 /// found by name. A copy shares the container and copies the tables.

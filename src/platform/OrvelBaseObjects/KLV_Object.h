@@ -10,7 +10,7 @@ class ORVELBASEOBJECTS_EXPORT KLV_Object
 {
 public:
   KLV_Object() = default;
-  KLV_Object(const KLV_Object& other) = default;
-  KLV_Object& operator=(const KLV_Object& other) = default;
+  KLV_Object(const KLV_Object&) = default;
+  KLV_Object& operator=(const KLV_Object&) = default;
   virtual ~KLV_Object();
 };
