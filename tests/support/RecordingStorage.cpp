@@ -1,6 +1,7 @@
 #include "support/RecordingStorage.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace
 {
@@ -203,4 +204,16 @@ void RecordingStorage::Read(const std::string& command, const std::string& id_na
     throw std::logic_error("read as another type than it was stored: " + place);
   }
   value = *stored;
+}
+
+bool CountsOrNamesCommands(const std::string& call)
+{
+  return call.rfind("GetNumCommand(", 0) == 0 || call.rfind("GetCommandName(", 0) == 0;
+}
+
+std::vector<std::string> WalkOver(const RecordingStorage& storage)
+{
+  std::vector<std::string> walk;
+  std::copy_if(storage.Calls().begin(), storage.Calls().end(), std::back_inserter(walk), CountsOrNamesCommands);
+  return walk;
 }

@@ -167,3 +167,9 @@ private:
   std::string m_failing_call;
   mutable std::vector<std::string> m_calls;
 };
+
+/// Whether the text of a call is `GetNumCommand(...)` or `GetCommandName(...)`.
+bool CountsOrNamesCommands(const std::string& call);
+
+/// The calls so far that count or name commands, in order.
+std::vector<std::string> WalkOver(const RecordingStorage& storage);

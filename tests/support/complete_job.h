@@ -2,7 +2,11 @@
 /// A fluid job that has commands of all 25 kinds and uses every reference between them.
 #pragma once
 
+#include "OrvelCommands/parfile/Gyre_Parfile.h"
 #include "support/required_commands.h"
+
+#include <string>
+#include <vector>
 
 /// The required commands and:
 /// - `ELEMENT_GROUP_` "duct", `FACE_GROUP_` "walls", `NODE_GROUP_` "corners"
@@ -95,4 +99,13 @@ inline RecordingStorage CompleteJob()
   surface["FORMAT_"] = {83, 66};
   surface["SLICE_X_"] = {0.5};
   return job;
+}
+
+/// What a storage with CompleteJob() is asked while an aggregate loads and links all of it.
+inline std::vector<std::string> CallsOfAWholeLoad()
+{
+  RecordingStorage storage = CompleteJob();
+  Gyre_Parfile parfile(storage);
+  parfile.Load();
+  return storage.Calls();
 }

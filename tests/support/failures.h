@@ -27,7 +27,10 @@ struct Failure
   }
 };
 
-/// The KLV_Failure that \p action throws.
+/// What FailureOf() gives for an action that returns.
+inline const Failure kNoFailure{"nothing was thrown", "", ""};
+
+/// The KLV_Failure that \p action throws, kNoFailure if it throws nothing.
 template <class Action>
 Failure FailureOf(Action action)
 {
@@ -39,7 +42,7 @@ Failure FailureOf(Action action)
   {
     return {failure.what(), failure.GetCode().exists() ? failure.GetCode().GetText() : "", failure.GetLogPrefix()};
   }
-  return {"nothing was thrown", "", ""};
+  return kNoFailure;
 }
 
 /// A collected problem: value, parameter, id name, command.

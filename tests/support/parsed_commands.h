@@ -4,6 +4,7 @@
 
 #include "OrvelCmdEngine/OrvelCmdContainer.h"
 #include "OrvelCommands/foundation/OrvelParfileStorage.h"
+#include "support/command_ids.h"
 
 #include <cstdint>
 #include <string>
@@ -99,16 +100,4 @@ inline std::vector<std::string> NamesOf(const OrvelParfileStorage& storage, cons
     names.push_back(NameAt(storage, kind, position));
   }
   return names;
-}
-
-/// The names of loaded commands.
-template <class Command>
-std::vector<std::string> IdsOf(const std::vector<Command*>& commands)
-{
-  std::vector<std::string> ids;
-  for (const Command* command : commands)
-  {
-    ids.push_back(command->GetID_NAME_());
-  }
-  return ids;
 }

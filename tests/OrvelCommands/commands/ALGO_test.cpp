@@ -3,6 +3,7 @@
 #include "support/accessor_types.h"
 #include "support/CapturedLog.h"
 #include "support/command_checks.h"
+#include "support/command_ids.h"
 #include "support/failures.h"
 #include "support/RecordingStorage.h"
 #include "support/required_commands.h"
@@ -170,17 +171,6 @@ Failure UnknownId(const std::string& message)
 Failure InvalidIndex(const std::string& message)
 {
   return {message, "220653270608", "[%T|%n|%P|libxml2vtm|ALGO_] "};
-}
-
-template <class Command>
-std::vector<std::string> IdsOf(const std::vector<const Command*>& commands)
-{
-  std::vector<std::string> ids;
-  for (const Command* command : commands)
-  {
-    ids.push_back(command->GetID_NAME_());
-  }
-  return ids;
 }
 
 void ExpectNoLists(const ALGO_& command)

@@ -1,4 +1,5 @@
 #include "OrvelCommands/commands/gyre_commands.h"
+#include "OrvelCommands/commands/smooth_commands.h"
 #include "OrvelCommands/parfile/Gyre_Parfile.h"
 #include "support/CapturedLog.h"
 #include "support/command_checks.h"
@@ -17,6 +18,7 @@
 #include <vector>
 
 using testing::ElementsAre;
+using testing::ElementsAreArray;
 using testing::IsEmpty;
 
 namespace
@@ -41,6 +43,15 @@ class OpenModel : public MODEL_
 public:
   using MODEL_::m_reserved_flag;
 };
+
+/// A command of each of the classes, as it was made.
+template <class... Commands>
+std::vector<std::unique_ptr<OrvelCommand>> OneOfEach()
+{
+  std::vector<std::unique_ptr<OrvelCommand>> commands;
+  (commands.push_back(std::make_unique<Commands>()), ...);
+  return commands;
+}
 
 RecordingStorage StorageWithModelOf(const std::string& file)
 {
@@ -87,23 +98,22 @@ TEST(OrvelCommand, KeepsTheOrderOfItsVirtualOperations)
 
 TEST(OrvelCommand, TellsTheKindOfACommandOfAnyClass)
 {
-  std::vector<std::unique_ptr<OrvelCommand>> commands;
-  commands.push_back(std::make_unique<MODEL_>());
-  commands.push_back(std::make_unique<ELEMENT_GROUP_>());
-  commands.push_back(std::make_unique<FACE_GROUP_>());
-  commands.push_back(std::make_unique<NODE_GROUP_>());
-  commands.push_back(std::make_unique<DRESP_>());
-  commands.push_back(std::make_unique<OPERATOR_>());
-  commands.push_back(std::make_unique<OBJ_FUNC_>());
-  commands.push_back(std::make_unique<CONSTRAINT_>());
+  const auto commands =
+    OneOfEach<MODEL_, ELEMENT_GROUP_, FACE_GROUP_, NODE_GROUP_, DV_, DRESP_, OPERATOR_, OBJ_FUNC_, CONSTRAINT_, CS_,
+              DV_CONSTRAINT_, MONITOR_, ALGO_, OPT_PARAM_, STOP_, MESH_SMOOTH_, FILTER_, PRE_PARAM_, AS_TOPO_OC_,
+              AS_TOPO_SENS_, AS_SHAPE_SENS_, FLOWPATHS_, OUTPUT_, SCALING_CURVE_, SMOOTH_>();
   std::vector<std::string> types;
   for (const auto& command : commands)
   {
     types.push_back(command->GetType());
     EXPECT_EQ(command->GetID_NAME_(), "");
   }
-  EXPECT_THAT(types, ElementsAre("MODEL_", "ELEMENT_GROUP_", "FACE_GROUP_", "NODE_GROUP_", "DRESP_", "OPERATOR_",
-                                 "OBJ_FUNC_", "CONSTRAINT_"));
+  EXPECT_THAT(types,
+              ElementsAreArray({"MODEL_",         "ELEMENT_GROUP_", "FACE_GROUP_", "NODE_GROUP_",    "DV_",
+                                "DRESP_",         "OPERATOR_",      "OBJ_FUNC_",   "CONSTRAINT_",    "CS_",
+                                "DV_CONSTRAINT_", "MONITOR_",       "ALGO_",       "OPT_PARAM_",     "STOP_",
+                                "MESH_SMOOTH_",   "FILTER_",        "PRE_PARAM_",  "AS_TOPO_OC_",    "AS_TOPO_SENS_",
+                                "AS_SHAPE_SENS_", "FLOWPATHS_",     "OUTPUT_",     "SCALING_CURVE_", "SMOOTH_"}));
 }
 
 TEST(OrvelCommand, TellsTheIdOfALoadedCommand)

@@ -24,6 +24,7 @@ TEST(ThrowFailure, ThrowsAFailureWithoutACodeWhereTheSiteHasNone)
   try
   {
     ThrowFailure("[prefix] ", {"it went wrong"});
+    FAIL() << "nothing was thrown";
   }
   catch (const KLV_Failure& failure)
   {
@@ -71,6 +72,7 @@ TEST(ThrowFailure, ThrowsNoCauseAndTheCallStack)
   try
   {
     ThrowFailure("", {"it went wrong"});
+    FAIL() << "nothing was thrown";
   }
   catch (const KLV_Exception& failure)
   {

@@ -48,14 +48,6 @@ Sizes SizesLostByTheCompleteJob(const std::string& failing_call)
   return SizesLostBy<Gyre_Parfile>(CompleteJob(), failing_call);
 }
 
-std::vector<std::string> CallsOfAWholeLoad()
-{
-  RecordingStorage storage = CompleteJob();
-  Gyre_Parfile parfile(storage);
-  parfile.Load();
-  return storage.Calls();
-}
-
 // The size of each class, by its kind.
 std::map<std::string, std::size_t> SizesOfKinds()
 {

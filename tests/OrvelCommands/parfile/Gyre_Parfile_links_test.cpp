@@ -1,4 +1,5 @@
 #include "OrvelCommands/parfile/Gyre_Parfile.h"
+#include "support/command_ids.h"
 #include "support/complete_job.h"
 #include "support/failures.h"
 
@@ -38,17 +39,6 @@ Failure FailureOfLoading(RecordingStorage job)
 {
   Gyre_Parfile parfile(job);
   return FailureOf([&] { parfile.Load(); });
-}
-
-template <class Command>
-std::vector<std::string> IdsOf(const std::vector<const Command*>& commands)
-{
-  std::vector<std::string> ids;
-  for (const Command* command : commands)
-  {
-    ids.push_back(command->GetID_NAME_());
-  }
-  return ids;
 }
 
 // A reference key of a command of CompleteJob().

@@ -21,18 +21,6 @@ namespace
 
 using Calls = std::vector<std::string>;
 
-bool CountsOrNamesCommands(const std::string& call)
-{
-  return call.rfind("GetNumCommand(", 0) == 0 || call.rfind("GetCommandName(", 0) == 0;
-}
-
-Calls WalkOver(const RecordingStorage& storage)
-{
-  Calls walk;
-  std::copy_if(storage.Calls().begin(), storage.Calls().end(), std::back_inserter(walk), CountsOrNamesCommands);
-  return walk;
-}
-
 // The second pass begins with the first reference key of the first linked kind.
 const char* const kFirstCallOfTheSecondPass = "GetNumElements(DV_, variable, FILTER_)";
 
@@ -40,14 +28,6 @@ Calls FirstPassOf(const RecordingStorage& storage)
 {
   const auto& calls = storage.Calls();
   return {calls.begin(), std::find(calls.begin(), calls.end(), kFirstCallOfTheSecondPass)};
-}
-
-Calls CallsOfAWholeLoad()
-{
-  RecordingStorage storage = CompleteJob();
-  Gyre_Parfile parfile(storage);
-  parfile.Load();
-  return storage.Calls();
 }
 
 // "DV_" of "GetCommandName(DV_, 0)".
@@ -102,8 +82,6 @@ void QueryEverything(const Gyre_Parfile& parfile)
     }
   });
 }
-
-const Failure kNoFailure{"nothing was thrown", "", ""};
 
 // A complete job with another count of one kind.
 RecordingStorage JobWithCount(const std::string& kind, int count)

@@ -1,4 +1,5 @@
 #include "OrvelCommands/parfile/Gyre_Parfile.h"
+#include "support/command_ids.h"
 #include "support/complete_job.h"
 #include "support/failures.h"
 #include "support/gyre_kinds.h"
@@ -41,17 +42,6 @@ RecordingStorage JobWithThreeOfEachKind()
     algorithm[key] = {Ref{"first"}};
   }
   return storage;
-}
-
-template <class Command>
-std::vector<std::string> IdsOf(const std::vector<Command*>& commands)
-{
-  std::vector<std::string> ids;
-  for (const Command* command : commands)
-  {
-    ids.push_back(command->GetID_NAME_());
-  }
-  return ids;
 }
 
 // The least job with three DV_ named one, two and three.

@@ -14,9 +14,6 @@ using testing::IsEmpty;
 namespace
 {
 
-const std::string kPrefix = "[%T|%n|%P|OrvelCommands|Gyre_Parfile] ";
-const Failure kNoFailure{"nothing was thrown", "", ""};
-
 // A loaded aggregate on a storage that can be changed.
 struct LoadedJob
 {

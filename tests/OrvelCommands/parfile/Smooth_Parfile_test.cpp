@@ -1,4 +1,5 @@
 #include "OrvelCommands/parfile/Smooth_Parfile.h"
+#include "support/command_ids.h"
 #include "support/failures.h"
 #include "support/RecordingStorage.h"
 
@@ -29,7 +30,6 @@ constexpr SMOOTH_& (Smooth_Parfile::*kById)(const std::string&) const = &Smooth_
 constexpr SMOOTH_& (Smooth_Parfile::*kByIndex)(std::uint64_t) const = &Smooth_Parfile::GetSMOOTH_;
 
 const std::string kPrefix = "[%T|%n|%P|OrvelCommands|Smooth_Parfile] ";
-const Failure kNoFailure{"nothing was thrown", "", ""};
 
 // Three commands in an order that is not that of their names.
 RecordingStorage ThreeSurfaces()
@@ -40,29 +40,6 @@ RecordingStorage ThreeSurfaces()
   storage.Command("SMOOTH_", "inner")["ISO_VALUE_"] = {0.5};
   storage.Command("SMOOTH_", "middle")["ISO_VALUE_"] = {0.4};
   return storage;
-}
-
-std::vector<std::string> IdsOf(const Smooth_Parfile& parfile)
-{
-  std::vector<std::string> ids;
-  for (const SMOOTH_* command : parfile.GetSMOOTH_())
-  {
-    ids.push_back(command->GetID_NAME_());
-  }
-  return ids;
-}
-
-std::vector<std::string> WalkOver(const RecordingStorage& storage)
-{
-  std::vector<std::string> walk;
-  for (const std::string& call : storage.Calls())
-  {
-    if (call.rfind("GetNumCommand(", 0) == 0 || call.rfind("GetCommandName(", 0) == 0)
-    {
-      walk.push_back(call);
-    }
-  }
-  return walk;
 }
 
 }  // namespace
@@ -110,7 +87,7 @@ TEST(SmoothParfile, KeepsTheOrderOfTheStorageAndTheValues)
   Smooth_Parfile parfile(storage);
   parfile.Load();
   EXPECT_EQ(parfile.NumSMOOTH_(), 3U);
-  EXPECT_THAT(IdsOf(parfile), ElementsAre("outer", "inner", "middle"));
+  EXPECT_THAT(IdsOf(parfile.GetSMOOTH_()), ElementsAre("outer", "inner", "middle"));
   EXPECT_EQ(parfile.GetSMOOTH_("inner").GetISO_VALUE_(), 0.5);
 }
 
@@ -231,7 +208,7 @@ TEST(SmoothParfile, KeepsTheCommandsBeforeOneWhoseLoadFails)
   storage.FailOn("GetValue(SMOOTH_, inner, ISO_VALUE_, 1, vtmDouble, double)");
   Smooth_Parfile parfile(storage);
   EXPECT_THROW(parfile.Load(), FailedOnDemand);
-  EXPECT_THAT(IdsOf(parfile), ElementsAre("outer"));
+  EXPECT_THAT(IdsOf(parfile.GetSMOOTH_()), ElementsAre("outer"));
 }
 
 TEST(SmoothParfile, CanBeDestroyedAfterALoadThatFailedAtAnyCall)
@@ -256,7 +233,7 @@ TEST(SmoothParfile, AppendsASecondSetWhenItIsLoadedTwice)
   Smooth_Parfile parfile(storage);
   parfile.Load();
   EXPECT_EQ(FailureOf([&] { parfile.Load(); }), kNoFailure) << "it has no kind of which only one is expected";
-  EXPECT_THAT(IdsOf(parfile), ElementsAre("outer", "inner", "middle", "outer", "inner", "middle"));
+  EXPECT_THAT(IdsOf(parfile.GetSMOOTH_()), ElementsAre("outer", "inner", "middle", "outer", "inner", "middle"));
   EXPECT_NE(parfile.GetSMOOTH_()[0], parfile.GetSMOOTH_()[3]);
   EXPECT_THROW(parfile.ValidateModelIds(), AbsentFromStorage) << "the storage has no fourth command";
 }
@@ -271,7 +248,7 @@ TEST(SmoothParfile, TakesOverTheCommandsOfAnotherAndLeavesItEmptyAndBound)
   EXPECT_EQ(target.GetSMOOTH_(), commands);
   EXPECT_EQ(source.NumSMOOTH_(), 0U);  // NOLINT(bugprone-use-after-move): it can be used again
   source.Load();
-  EXPECT_THAT(IdsOf(source), ElementsAre("outer", "inner", "middle"));
+  EXPECT_THAT(IdsOf(source.GetSMOOTH_()), ElementsAre("outer", "inner", "middle"));
   EXPECT_NE(source.GetSMOOTH_()[0], target.GetSMOOTH_()[0]);
   EXPECT_EQ(FailureOf([&] { target.ValidateModelIds(); }), kNoFailure) << "it is bound to the storage, too";
 }
