@@ -524,12 +524,12 @@ class Output(unittest.TestCase):
 
     def test_does_not_depend_on_the_hash_seed(self):
         written = []
-        for seed in ("0", "1", "20", "4711"):
+        for hash_seed in ("0", "1", "20", "4711"):
             with folder() as library:
                 for name in ("gyre_commands.toml", "smooth_commands.toml"):
                     (library / "commands").mkdir(exist_ok=True)
                     shutil.copy(LIBRARY / "commands" / name, library / "commands" / name)
-                ended = run("--library", library, "--write", PYTHONHASHSEED=seed)
+                ended = run("--library", library, "--write", PYTHONHASHSEED=hash_seed)
                 self.assertEqual((ended.returncode, ended.stderr), (0, ""))
                 written.append((ended.stdout, contents(library)))
         for later in written[1:]:

@@ -4,10 +4,9 @@
 
 #include <cstdint>
 
-/// What one table holds, as a row of the database. The names of the fields tell what the modules that keep this table
-/// agree upon; the library carries the record and reads none of them.
-/// \warning It has no constructor: the fields of `XmlvtmInfoRecord()` are 0, those of a plain local variable are not
-/// set.
+/// What one table holds, as a row of the database. The library carries the record and reads no field of it; the names
+/// of the fields are chosen here, and what they hold is for the modules that keep this table. \warning It has no
+/// constructor: the fields of `XmlvtmInfoRecord()` are 0, those of a plain local variable are not set.
 struct XmlvtmInfoRecord
 {
   /// Describes the row to the database: a letter for each field and one that closes it.

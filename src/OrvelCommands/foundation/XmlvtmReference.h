@@ -4,8 +4,8 @@
 
 #include <cstdint>
 
-/// A reference between two commands, as a row of the database. The names of the fields tell what the modules that keep
-/// this table agree upon; the library carries the record and reads none of them.
+/// A reference between two commands, as a row of the database. The library carries the record and reads no field of it;
+/// the names of the fields are chosen here, and what they hold is for the modules that keep this table.
 struct XmlvtmReference
 {
   /// Describes the row to the database: a letter for each field and one that closes it.
