@@ -1,5 +1,6 @@
-#include "exit_code.h"
-#include "subcommands.h"
+#include "job/scratch_folder.h"
+#include "subcommands/subcommands.h"
+#include "support/exit_code.h"
 
 #include "OrvelCommands/foundation/KLV_Exception.h"
 
@@ -34,6 +35,7 @@ int Run(int argument_count, char** arguments)
   tool.require_subcommand(1);
   AddInit(tool);
   AddImport(tool);
+  AddExport(tool);
   AddCheck(tool);
   AddShow(tool);
   AddSchema(tool);
@@ -54,6 +56,7 @@ int main(int argument_count, char** arguments)
 {
   // Our own text tells what happened; HDF5's report of forty lines would bury it.
   H5::Exception::dontPrint();
+  RemoveScratchFolderOnSignals();
   try
   {
     return Run(argument_count, arguments);

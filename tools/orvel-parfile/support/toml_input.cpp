@@ -11,9 +11,9 @@ toml::table ReadToml(const std::filesystem::path& path)
 {
   std::ifstream file(path, std::ios::binary);
   std::ostringstream text;
-  if (!file || std::filesystem::is_directory(path) || !(text << file.rdbuf()))
+  if (!file || std::filesystem::is_directory(path) || (file.peek() != EOF && !(text << file.rdbuf())))
   {
-    throw UnusableInput(path.string() + ": the file cannot be read or is empty");
+    throw UnusableInput(path.string() + ": the file cannot be read");
   }
   try
   {
