@@ -6,6 +6,8 @@
 
 #include <CLI/CLI.hpp>
 #include <H5Cpp.h>
+#include <poll.h>
+#include <unistd.h>
 
 #include <iostream>
 
@@ -18,11 +20,22 @@ int Report(const std::string& what, ExitCode code)
   return code;
 }
 
+// A pipe that nobody reads any more: where the signal that tells so is blocked, the tool ends as quietly without it.
+bool IsBrokenPipe(int descriptor)
+{
+  pollfd output{descriptor, POLLOUT, 0};
+  return poll(&output, 1, 0) == 1 && (output.revents & POLLERR) != 0;
+}
+
 // Output that is lost is no success.
 ExitCode FlushOutput()
 {
   if (!std::cout.flush())
   {
+    if (IsBrokenPipe(STDOUT_FILENO))
+    {
+      return exitUnusable;
+    }
     throw UnusableInput("the output cannot be written");
   }
   return exitGood;

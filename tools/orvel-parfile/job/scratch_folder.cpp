@@ -114,6 +114,11 @@ void RemoveScratchFolderOnSignals()
 {
   for (const int signal : {SIGINT, SIGTERM, SIGHUP, SIGPIPE})
   {
-    ::signal(signal, RemoveAndEnd);
+    // A signal that the parent has ignored, as nohup does, stays ignored. A broken pipe ends the tool in any case: who
+    // has stopped reading wants no more work and no message.
+    if (::signal(signal, RemoveAndEnd) == SIG_IGN && signal != SIGPIPE)
+    {
+      ::signal(signal, SIG_IGN);
+    }
   }
 }
