@@ -26,7 +26,8 @@ class HelpAndVersion(ToolTest):
         self.assert_helps(("check",), "Usage: orvel-parfile check ", "file", "--model-ids", "--job", "gyre", "smooth")
 
     def test_the_help_of_show_names_its_arguments(self):
-        self.assert_helps(("show",), "Usage: orvel-parfile show ", "file", "--job", "gyre", "smooth")
+        self.assert_helps(("show",), "Usage: orvel-parfile show ", "file", "kind", "id", "--log", "--json", "--job", "gyre",
+                          "smooth", "--color", "Example: ")
 
     def test_help_does_nothing_else(self):
         self.copy_example("bent_duct")
@@ -67,7 +68,7 @@ class WrongUse(ToolTest):
         self.copy_example("bent_duct")
         self.assert_wrong_use("import", "job.toml", ".", "again", says="again")
         self.assert_wrong_use("check", ".", "again", says="again")
-        self.assert_wrong_use("show", ".", "again", says="again")
+        self.assert_wrong_use("show", ".", "DV_", "porosity", "again", says="again")
 
     def test_two_subcommands(self):
         self.copy_example("bent_duct")
