@@ -51,6 +51,8 @@ int Run(int argument_count, char** arguments)
   AddExport(tool);
   AddCheck(tool);
   AddShow(tool);
+  AddDiff(tool);
+  AddGraph(tool);
   AddSchema(tool);
   try
   {
@@ -59,6 +61,10 @@ int Run(int argument_count, char** arguments)
   catch (const CLI::ParseError& error)
   {
     return tool.exit(error) == 0 ? FlushOutput() : exitUnusable;
+  }
+  catch (const FaultsAreTold&)
+  {
+    return FlushOutput() == exitGood ? exitFaults : exitUnusable;
   }
   return FlushOutput();
 }

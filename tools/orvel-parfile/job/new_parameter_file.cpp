@@ -134,7 +134,7 @@ std::vector<std::string> NewParameterFile::Fill(const Job& job)
 
 fs::path NewParameterFile::Path() const
 {
-  return m_folder.Path() / PARFILE_STORAGE_FILE;
+  return m_folder.File();
 }
 
 void NewParameterFile::PutInPlace()

@@ -98,7 +98,7 @@ ScratchFolder::ScratchFolder(const fs::path& place) : m_lock(-1)
     m_path = name;
     m_lock = TryToLock(m_path);
   }
-  SetName(scratch_file, (m_path / PARFILE_STORAGE_FILE).string());
+  SetName(scratch_file, File().string());
   SetName(scratch_folder, m_path.string());
 }
 
@@ -108,6 +108,11 @@ ScratchFolder::~ScratchFolder()
   fs::remove_all(m_path, ignored);
   scratch_folder[0] = '\0';
   close(m_lock);
+}
+
+fs::path ScratchFolder::File() const
+{
+  return m_path / PARFILE_STORAGE_FILE;
 }
 
 void RemoveScratchFolderOnSignals()

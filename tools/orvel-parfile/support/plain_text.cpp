@@ -48,11 +48,11 @@ bool IsIn(std::uint32_t code, std::uint32_t first, std::uint32_t last)
   return code >= first && code <= last;
 }
 
-// Control characters, line ends and what turns the direction of writing.
+// Control characters, line ends, what turns the direction of writing, and what is no character.
 bool IsUnsafe(std::uint32_t code)
 {
   return code < 0x20 || IsIn(code, 0x7F, 0x9F) || code == 0x061C || IsIn(code, 0x200E, 0x200F) ||
-         IsIn(code, 0x2028, 0x202E) || IsIn(code, 0x2066, 0x2069);
+         IsIn(code, 0x2028, 0x202E) || IsIn(code, 0x2066, 0x2069) || (code & 0xFFFEU) == 0xFFFE;
 }
 
 std::string Escaped(const Character& character)
