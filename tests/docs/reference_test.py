@@ -8,6 +8,9 @@ import unittest
 import urllib.parse
 from pathlib import Path
 
+from pages import REPOSITORY, run
+
+CMAKE = os.environ["ORVEL_CMAKE"]
 DOXYGEN = os.environ["ORVEL_DOXYGEN"]
 DOXYFILE = Path(os.environ["ORVEL_DOXYFILE"])
 TARGET = re.compile(r'(?:href|src)="([^"#?]+)')
@@ -52,6 +55,20 @@ class Reference(unittest.TestCase):
         ended = make_reference(self.folder, f'INPUT = "{header}"', "USE_MDFILE_AS_MAINPAGE =")
         self.assertIn("Member Get() const (function) of class Bare is not documented", ended.stderr)
         self.assertNotEqual(ended.returncode, 0)
+
+    def test_is_installed_with_the_pages_and_the_examples_as_a_component_of_its_own(self):
+        build, prefix = self.folder / "build", self.folder / "prefix"
+        run(CMAKE, "-S", REPOSITORY, "-B", build, "-G", "Ninja", "-DORVEL_BUILD_DOCS=ON", "-DBUILD_TESTING=OFF",
+            "-DORVEL_BUILD_TOOLS=OFF", "-DORVEL_BUILD_EXAMPLES=OFF")
+        run(CMAKE, "--build", build, "--target", "docs")
+        run(CMAKE, "--install", build, "--component", "doc", "--prefix", prefix)
+        documentation = prefix / "share" / "doc" / "orvelcommands"
+        self.assertEqual({path.relative_to(prefix).parts[:3] for path in prefix.rglob("*") if path.is_file()},
+                         {("share", "doc", "orvelcommands")})
+        for name in ("html/index.html", "html/classDV__.html", "tour.md", "architecture.svg", "examples/README.md",
+                     "examples/bent_duct/job.toml", "examples/map_storage/MapStorage.h", "examples/consumer/CMakeLists.txt"):
+            self.assertTrue((documentation / name).is_file(), name)
+        self.assertFalse((documentation / "examples" / "CMakeLists.txt").exists())
 
 
 if __name__ == "__main__":
