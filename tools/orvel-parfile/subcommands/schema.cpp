@@ -1,7 +1,7 @@
-#include "exit_code.h"
-#include "nearest_name.h"
-#include "schema_names.h"
 #include "subcommands.h"
+#include "support/exit_code.h"
+#include "support/nearest_name.h"
+#include "support/schema_names.h"
 
 #include "OrvelCommands/commands/command_schema.h"
 

@@ -1,8 +1,10 @@
-#include "exit_code.h"
-#include "inventory.h"
-#include "job_description.h"
-#include "parameter_file.h"
+#include "check/rules.h"
+#include "job/inventory.h"
+#include "job/job_description.h"
+#include "job/new_parameter_file.h"
+#include "job/parameter_file.h"
 #include "subcommands.h"
+#include "support/exit_code.h"
 
 #include <CLI/CLI.hpp>
 
@@ -22,16 +24,19 @@ struct Options
 void Import(const Options& options)
 {
   const std::filesystem::path place = NewParameterFilePath(options.file, options.force);
-  const std::vector<JobCommand> job = ReadJobDescription(options.job);
+  const Job job = ReadSoundJobDescription(options.job);
   NewParameterFile file(place);
   const std::vector<std::string> failures = file.Fill(job);
   if (!failures.empty())
   {
     throw FaultyInput(failures);
   }
-  const Inventory inventory = CountContents(*OpenParameterFile(file.Path()));
   file.PutInPlace();
-  std::cout << "imported " << options.job << ": " << AsText(inventory) << "\n";
+  for (const Finding& missing : FindMissingKeys(job))
+  {
+    std::cerr << AsLine(missing) << "\n";
+  }
+  std::cout << "imported " << options.job << ": " << AsText(CountContents(job)) << "\n";
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
-#include "inventory.h"
-#include "job_kind.h"
-#include "parameter_file.h"
+#include "job/inventory.h"
+#include "job/job_kind.h"
+#include "job/parameter_file.h"
+#include "job/read_parameter_file.h"
 #include "subcommands.h"
 
 #include "OrvelCommands/parfile/for_each_command.h"
@@ -32,14 +33,15 @@ void PrintRecord(const KLV_LogRecord& record)
 
 void Show(const Options& options)
 {
-  const auto storage = OpenParameterFile(ParameterFilePath(options.file));
+  const std::filesystem::path path = ParameterFilePath(options.file);
+  const auto storage = OpenParameterFile(path);
   WithParfile(options.job, *storage, [&](auto& parfile) {
     parfile.Load();
     KLV_LogMacros::SetSink(PrintRecord);
     orvel::ForEachCommand(parfile, [](const auto& command) { command.ToString(); });
     KLV_LogMacros::SetSink(nullptr);
   });
-  std::cout << AsText(CountContents(*storage)) << "\n";
+  std::cout << AsText(CountContents(ReadParameterFile(path))) << "\n";
 }
 
 }  // namespace

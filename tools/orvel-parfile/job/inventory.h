@@ -1,13 +1,13 @@
 /// \file
-/// What a parameter file holds, in numbers.
+/// What a job holds, in numbers.
 #pragma once
 
-#include "OrvelCommands/foundation/OrvelParfileStorage.h"
+#include "job.h"
 
 #include <cstdint>
 #include <string>
 
-/// Counts over all kinds and keys that the schema knows.
+/// Counts over all commands and keys, known to the schema or not.
 struct Inventory
 {
   std::uint64_t kinds = 0;  ///< With at least one command.
@@ -17,8 +17,7 @@ struct Inventory
   std::uint64_t model_ids = 0;
 };
 
-/// Throws: what the storage throws.
-Inventory CountContents(const OrvelParfileStorage& storage);
+Inventory CountContents(const Job& job);
 
 /// "25 kinds, 55 commands, ..."
 std::string AsText(const Inventory& inventory);

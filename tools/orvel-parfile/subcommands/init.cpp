@@ -1,4 +1,5 @@
-#include "parameter_file.h"
+#include "job/new_parameter_file.h"
+#include "job/parameter_file.h"
 #include "subcommands.h"
 
 #include <CLI/CLI.hpp>

@@ -14,6 +14,7 @@ class App;
 /// @{
 void AddInit(CLI::App& tool);
 void AddImport(CLI::App& tool);
+void AddExport(CLI::App& tool);
 void AddCheck(CLI::App& tool);
 void AddShow(CLI::App& tool);
 void AddSchema(CLI::App& tool);
