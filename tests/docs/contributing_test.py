@@ -26,8 +26,8 @@ find_package(nlohmann_json REQUIRED)
 find_package(GTest REQUIRED)
 
 set(tool "@TREE@/tools/orvel-parfile")
-add_executable(orvel-parfile tool.cpp "${tool}/exit_code.cpp" "${tool}/nearest_name.cpp" "${tool}/schema.cpp"
-  "${tool}/schema_names.cpp")
+add_executable(orvel-parfile tool.cpp "${tool}/subcommands/schema.cpp" "${tool}/support/exit_code.cpp"
+  "${tool}/support/nearest_name.cpp" "${tool}/support/schema_names.cpp")
 target_include_directories(orvel-parfile PRIVATE "${tool}")
 target_link_libraries(orvel-parfile PRIVATE OrvelCommands::OrvelCommands CLI11::CLI11 nlohmann_json::nlohmann_json)
 
@@ -43,7 +43,7 @@ target_link_libraries(user PRIVATE OrvelCommands::OrvelCommands)
 """
 
 TOOL = """
-#include "subcommands.h"
+#include "subcommands/subcommands.h"
 
 #include <CLI/CLI.hpp>
 
