@@ -29,6 +29,12 @@ class HelpAndVersion(ToolTest):
         self.assert_helps(("show",), "Usage: orvel-parfile show ", "file", "kind", "id", "--log", "--json", "--job", "gyre",
                           "smooth", "--color", "Example: ")
 
+    def test_the_help_of_diff_names_its_arguments(self):
+        self.assert_helps(("diff",), "Usage: orvel-parfile diff ", "before", "after", "--json", "--color", "Example: ")
+
+    def test_the_help_of_graph_names_its_arguments(self):
+        self.assert_helps(("graph",), "Usage: orvel-parfile graph ", "file", "--output", "--no-groups", "Example: ")
+
     def test_help_does_nothing_else(self):
         self.copy_example("bent_duct")
         self.assertEqual(GOOD, self.tool("import", "job.toml", "--help").code)
@@ -77,7 +83,11 @@ class WrongUse(ToolTest):
     def test_import_without_a_job(self):
         self.assert_wrong_use("import", says="job")
 
+    def test_diff_of_one_thing(self):
+        self.assert_wrong_use("diff", ".", says="after")
+
     def test_an_option_without_its_value(self):
+        self.assert_wrong_use("graph", "-o", says="--output")
         self.assert_wrong_use("check", "--model-ids", says="--model-ids")
         self.assert_wrong_use("check", "--job", says="--job")
 

@@ -9,8 +9,8 @@
 #include "subcommands.h"
 #include "support/exit_code.h"
 #include "support/file_argument.h"
+#include "support/printable.h"
 #include "support/style.h"
-#include "support/toml_input.h"
 
 #include "OrvelCommands/parfile/for_each_command.h"
 #include "OrvelUtilities/KLV_LogMacros.h"
