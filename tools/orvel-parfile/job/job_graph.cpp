@@ -118,39 +118,38 @@ std::size_t JobGraph::Depth() const
     std::size_t node;
     std::size_t next_target;
   };
-  std::vector<std::size_t> depths(m_nodes.size());  // of the nodes below each, as far as they are known
+  std::vector<std::size_t> depths(m_nodes.size());  // below each node, as far as that is known
   std::vector<bool> is_met(m_nodes.size());
+  std::vector<Step> way;  // no recursion: it would be as deep as the job has commands in a row
+  const auto enter = [&](std::size_t node) {
+    if (!is_met[node])
+    {
+      is_met[node] = true;
+      way.push_back({node, 0});
+    }
+  };
   std::size_t deepest = 0;
   for (std::size_t root = 0; root < m_nodes.size(); ++root)
   {
-    if (m_nodes[root].kind != kRootKind)
+    if (m_nodes[root].kind == kRootKind)
     {
-      continue;
+      enter(root);
     }
-    std::vector<Step> way = {{root, 0}};
-    is_met[root] = true;
     while (!way.empty())
     {
-      Step& step = way.back();
-      if (step.next_target < m_targets[step.node].size())
+      const std::size_t node = way.back().node;
+      if (way.back().next_target < m_targets[node].size())
       {
-        const std::size_t target = m_targets[step.node][step.next_target++];
-        depths[step.node] = std::max(depths[step.node], depths[target] + 1);
-        if (!is_met[target])
-        {
-          is_met[target] = true;
-          way.push_back({target, 0});
-        }
+        enter(m_targets[node][way.back().next_target++]);
         continue;
       }
-      const std::size_t depth = depths[step.node];
-      way.pop_back();
-      if (!way.empty())
+      for (const std::size_t target : m_targets[node])
       {
-        depths[way.back().node] = std::max(depths[way.back().node], depth + 1);
+        depths[node] = std::max(depths[node], depths[target] + 1);
       }
+      deepest = std::max(deepest, depths[node]);
+      way.pop_back();
     }
-    deepest = std::max(deepest, depths[root]);
   }
   return deepest;
 }
