@@ -139,7 +139,7 @@ std::string MiddleChange(const Texts& before, const Texts& after)
 
 std::string ListChange(const Texts& before, const Texts& after)
 {
-  const std::string text = Joined(before.begin(), before.end()) + " -> " + Joined(after.begin(), after.end());
+  std::string text = Joined(before.begin(), before.end()) + " -> " + Joined(after.begin(), after.end());
   if ((before.size() <= kMostItems && after.size() <= kMostItems && text.size() <= kShortText) ||
       std::max(before.size(), after.size()) <= 1)
   {

@@ -3,6 +3,7 @@
 #include "support/plain_text.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <cstring>
 #include <set>
 #include <type_traits>
@@ -10,9 +11,16 @@
 namespace
 {
 
+std::uint64_t BitsOf(double value)
+{
+  std::uint64_t bits = 0;
+  std::memcpy(&bits, &value, sizeof bits);
+  return bits;
+}
+
 bool AreSame(double one, double other)
 {
-  return std::memcmp(&one, &other, sizeof one) == 0;
+  return BitsOf(one) == BitsOf(other);
 }
 
 bool AreSame(const std::vector<double>& one, const std::vector<double>& other)
