@@ -121,6 +121,14 @@ class Keys(DiffTest):
     def test_another_type(self):
         self.assert_values_differ(integers(1), doubles(1.0), "1 (integer) -> 1 (number)", "INITIAL_")
 
+    def test_another_type_of_the_same_values(self):
+        self.write_both({"DV_": {"d": {"TYPE_": integers(68)}}}, {"DV_": {"d": {}}})
+        with self.edit("b") as file:
+            file["PARFILE/DV_/d"].create_dataset("TYPE_", data=[68], dtype="i8")
+        self.assertEqual(
+            (FAULTS, "~ DV_ d TYPE_: DENSITY (integer) -> DENSITY (int64)\n", ""), self.tool("diff", "a", "b"))
+        self.assert_values_differ(texts(), integers(), "(no values) (text) -> (no values) (integer)")
+
     def test_a_key_without_values_is_not_an_absent_one(self):
         self.assert_values_differ(texts("a"), texts(), "a -> (no values)")
         self.assert_differs({"CS_": {"c": {}}}, {"CS_": {"c": {"TYPE_": integers()}}}, "+ CS_ c TYPE_: (no values)")

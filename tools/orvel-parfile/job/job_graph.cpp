@@ -21,7 +21,7 @@ bool IsStandalone(const std::string& kind)
     return std::any_of(command.fields.begin(), command.fields.end(),
                        [&](const schema::Field& field) { return LeadsTo(field, kind); });
   };
-  return schema::FindCommand(kind) != nullptr && kind != kRootKind &&
+  return schema::FindCommand(kind) != nullptr &&
          std::none_of(schema::Commands().begin(), schema::Commands().end(), leads_there);
 }
 
