@@ -16,7 +16,15 @@ namespace
 class WorkingDirectory
 {
 public:
-  explicit WorkingDirectory(const fs::path& folder) : m_former(fs::current_path()) { fs::current_path(folder); }
+  explicit WorkingDirectory(const fs::path& folder) : m_former(fs::current_path())
+  {
+    std::error_code error;
+    fs::current_path(folder, error);
+    if (error)
+    {
+      throw fs::filesystem_error("", folder, error);  // the function's own failure does not tell the folder
+    }
+  }
   ~WorkingDirectory()
   {
     std::error_code ignored;

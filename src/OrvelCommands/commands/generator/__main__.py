@@ -66,7 +66,7 @@ def check(outputs):
 def main():
     parser = argparse.ArgumentParser(prog="generator", description=__doc__)
     parser.add_argument("--library", type=Path, default=LIBRARY, help="the folder src/OrvelCommands")
-    parser.add_argument("--python", type=Path, help="the folder python, by default the one beside src where there is one")
+    parser.add_argument("--python", type=Path, help="the folder python, by default the one beside src if there is one")
     mode = parser.add_mutually_exclusive_group(required=True)
     mode.add_argument("--write", action="store_true", help="write the files that differ")
     mode.add_argument("--check", action="store_true", help="show what differs and fail if anything does")

@@ -1,4 +1,4 @@
-"""Puts the generated files of the Python module together: its bindings and the stubs that tell type checkers its types."""
+"""Puts the generated files of the Python module together: its bindings and its type stubs."""
 
 from outputs import COMMAND_LINE, GENERATOR, banner, make_aggregates, table_names
 from template_text import fill, substitute
@@ -61,9 +61,7 @@ def _command_stub(command):
 
 
 def _each_kind(template, aggregate):
-    return "".join(
-        fill(f"{template}_{text.command.count}.tmpl", aggregate=aggregate.aggregate.class_name,
-             class_name=text.command.class_name, doc=text.command.doc) for text in aggregate.commands).removesuffix("\n")
+    return aggregate.each(template).removesuffix("\n")
 
 
 def _job_binding(aggregate):
