@@ -1,9 +1,9 @@
 #include "job/graph_text.h"
 #include "job/inventory.h"
 #include "job/job_graph.h"
+#include "job/picture.h"
 #include "job/read_job.h"
 #include "subcommands.h"
-#include "support/picture.h"
 #include "support/plain_text.h"
 
 #include <CLI/CLI.hpp>

@@ -1,8 +1,8 @@
 #include "picture.h"
 
-#include "exit_code.h"
-#include "job/scratch_folder.h"
-#include "progress.h"
+#include "scratch_folder.h"
+#include "support/exit_code.h"
+#include "support/progress.h"
 
 #include <fcntl.h>
 #include <poll.h>
