@@ -30,6 +30,7 @@ class LibraryOnAnotherPlatform(FolderTest):
         build = self.folder / "build of program"
         configure_and_build(OWN_PLATFORM / "log_commands", build, prefix_path(self.library, self.platform))
         self.assertEqual(run(build / "log_commands", folder=self.bent_duct()),
+                         "own log: m_ID_NAME_: all_variables\n"
                          "own log: m_ID_NAME_: porosity\n"
                          "own log: m_ID_NAME_: wall_offset\n")
 
