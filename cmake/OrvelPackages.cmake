@@ -86,16 +86,16 @@ if("tools" IN_LIST components)
 endif()
 
 if("python" IN_LIST components)
-  find_package(Python3 REQUIRED COMPONENTS Interpreter)
-  math(EXPR next_minor "${Python3_VERSION_MINOR} + 1")
+  find_package(Python REQUIRED COMPONENTS Interpreter)
+  math(EXPR next_minor "${Python_VERSION_MINOR} + 1")
   orvel_package(python
     NAME python3-orvelcommands
     SECTION python
     SUMMARY "parameter model of an optimization job (Python module)"
     DESCRIPTION "The module orvelcommands reads the typed commands of an optimization job\nfrom Python and fills its parameter file."
     DEPENDS ${same_library}
-      "python3 (>= ${Python3_VERSION_MAJOR}.${Python3_VERSION_MINOR})"
-      "python3 (<< ${Python3_VERSION_MAJOR}.${next_minor})")
+      "python3 (>= ${Python_VERSION_MAJOR}.${Python_VERSION_MINOR})"
+      "python3 (<< ${Python_VERSION_MAJOR}.${next_minor})")
 endif()
 
 orvel_package(doc
@@ -104,15 +104,6 @@ orvel_package(doc
   SUMMARY "parameter model of an optimization job (documentation)"
   DESCRIPTION "${what_it_is}\nThis package holds its documentation, example jobs and example projects.")
 set(CPACK_DEBIAN_DOC_PACKAGE_ARCHITECTURE all)
-file(GLOB examples CONFIGURE_DEPENDS LIST_DIRECTORIES TRUE "${PROJECT_SOURCE_DIR}/examples/*")
-list(REMOVE_ITEM examples "${PROJECT_SOURCE_DIR}/examples/CMakeLists.txt")
-foreach(example IN LISTS examples)
-  if(IS_DIRECTORY "${example}")
-    install(DIRECTORY "${example}" DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/orvelcommands/examples" COMPONENT doc)
-  else()
-    install(FILES "${example}" DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/orvelcommands/examples" COMPONENT doc)
-  endif()
-endforeach()
 
 set(CPACK_PACKAGE_NAME orvelcommands)
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "")  # each package has a first line of its own

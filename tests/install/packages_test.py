@@ -10,7 +10,7 @@ from support import BENT_DUCT, REPOSITORY, FolderTest, run, run_freely
 # Kept between runs, so that only what changed is compiled again.
 BUILD = Path(os.environ["ORVEL_PACKAGE_BUILD"])
 MANUAL_PAGE = REPOSITORY / "docs" / "man" / "orvel-parfile.1"
-NAMES = ["liborvelcommands-dev", "liborvelcommands0", "orvel-parfile", "orvelcommands-doc"]
+NAMES = ["liborvelcommands-dev", "liborvelcommands0", "orvel-parfile", "orvelcommands-doc", "python3-orvelcommands"]
 
 
 def field(package, name):
@@ -34,7 +34,7 @@ class DebianPackages(FolderTest):
         self.assertEqual(sorted(self.packages), NAMES)
 
     def test_need_each_other_in_the_same_version(self):
-        for package in ("liborvelcommands-dev", "orvel-parfile"):
+        for package in ("liborvelcommands-dev", "orvel-parfile", "python3-orvelcommands"):
             with self.subTest(package=package):
                 self.assertIn(f"liborvelcommands0 (= {self.version})", field(self.packages[package], "Depends"))
 

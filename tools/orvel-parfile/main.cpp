@@ -1,5 +1,7 @@
-#include "exit_code.h"
-#include "subcommands.h"
+#include "job/scratch_folder.h"
+#include "subcommands/subcommands.h"
+#include "support/exit_code.h"
+#include "support/printable.h"
 
 #include "OrvelCommands/foundation/KLV_Exception.h"
 
@@ -13,7 +15,7 @@ namespace
 
 int Report(const std::string& what, ExitCode code)
 {
-  std::cerr << what << "\n";
+  std::cerr << Printable(what) << "\n";
   return code;
 }
 
@@ -34,6 +36,7 @@ int Run(int argument_count, char** arguments)
   tool.require_subcommand(1);
   AddInit(tool);
   AddImport(tool);
+  AddExport(tool);
   AddCheck(tool);
   AddShow(tool);
   AddSchema(tool);
@@ -54,6 +57,7 @@ int main(int argument_count, char** arguments)
 {
   // Our own text tells what happened; HDF5's report of forty lines would bury it.
   H5::Exception::dontPrint();
+  RemoveScratchFolderOnSignals();
   try
   {
     return Run(argument_count, arguments);

@@ -1,0 +1,3 @@
+#include "rules.h"
+
+void CheckModel(const CheckSubject&, std::vector<Finding>&) {}

@@ -1,0 +1,3 @@
+#include "rules.h"
+
+void CheckReferences(const CheckSubject&, std::vector<Finding>&) {}

@@ -1,0 +1,111 @@
+#include "parameter_file.h"
+
+#include "support/exit_code.h"
+
+#include "OrvelCommands/foundation/KLV_Failure.h"
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <system_error>
+
+namespace fs = std::filesystem;
+
+namespace
+{
+
+// HDF5 holds a lock on each file that it has open, exclusive for writing.
+void RequireNoWriter(const fs::path& path)
+{
+  const int descriptor = open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+  if (descriptor < 0)
+  {
+    return;  // the storage tells why
+  }
+  const bool is_written = flock(descriptor, LOCK_SH | LOCK_NB) != 0 && errno == EWOULDBLOCK;
+  close(descriptor);
+  if (is_written)
+  {
+    throw UnusableInput(path.string() +
+                        ": another process holds the file open for writing; try again when it has ended");
+  }
+}
+
+void RequireFile(const fs::path& path)
+{
+  if (!fs::exists(path))
+  {
+    throw UnusableInput(path.string() + ": there is no such file");
+  }
+  if (!fs::is_regular_file(path))
+  {
+    throw UnusableInput(path.string() + ": this is no file");
+  }
+}
+
+}  // namespace
+
+WorkingDirectory::WorkingDirectory(const fs::path& folder) : m_former(fs::current_path())
+{
+  fs::current_path(folder);
+}
+
+WorkingDirectory::~WorkingDirectory()
+{
+  std::error_code ignored;
+  fs::current_path(m_former, ignored);
+}
+
+fs::path ParameterFilePath(const fs::path& argument)
+{
+  if (argument.empty())
+  {
+    throw UnusableInput("the path of the parameter file is empty");
+  }
+  fs::path path = fs::absolute(argument).lexically_normal();
+  if (fs::is_directory(path))
+  {
+    return path / PARFILE_STORAGE_FILE;
+  }
+  if (path.filename() != PARFILE_STORAGE_FILE)
+  {
+    if (path.filename().empty())
+    {
+      throw UnusableInput(argument.string() + ": there is no such folder");
+    }
+    throw UnusableInput(argument.string() + ": a parameter file must have the name " + PARFILE_STORAGE_FILE);
+  }
+  return path;
+}
+
+fs::path NewParameterFilePath(const fs::path& argument, bool force)
+{
+  fs::path path = ParameterFilePath(argument);
+  if (fs::exists(path))
+  {
+    if (!force)
+    {
+      throw UnusableInput(path.string() + " exists already; --force replaces it");
+    }
+    RequireFile(path);
+    RequireNoWriter(path);
+  }
+  return path;
+}
+
+std::unique_ptr<ParfileHdf5Storage> OpenParameterFile(const fs::path& path)
+{
+  RequireFile(path);
+  RequireNoWriter(path);
+  const WorkingDirectory folder(path.parent_path());
+  try
+  {
+    return std::make_unique<ParfileHdf5Storage>(false, true);
+  }
+  catch (const KLV_Failure& failure)
+  {
+    throw UnusableInput(path.string() + ": " + failure.what());
+  }
+}

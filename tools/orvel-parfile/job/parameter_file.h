@@ -1,0 +1,34 @@
+/// \file
+/// Where parameter files lie, and how they are opened.
+#pragma once
+
+#include "OrvelCommands/storage/ParfileHdf5Storage.h"
+
+#include <filesystem>
+#include <memory>
+
+/// The parameter file that an argument of the command line means: the file itself or its folder.
+/// Throws: UnusableInput for a file of another name, under which no storage would find it.
+std::filesystem::path ParameterFilePath(const std::filesystem::path& argument);
+
+/// The same for a file that is to be made.
+/// Throws: UnusableInput also for a file that is there, unless \p force; with it, for one that cannot be replaced.
+std::filesystem::path NewParameterFilePath(const std::filesystem::path& argument, bool force);
+
+/// Opens a parameter file for reading.
+/// Throws: UnusableInput with the failure of the storage when it cannot be opened; also when another process holds it
+/// open for writing.
+std::unique_ptr<ParfileHdf5Storage> OpenParameterFile(const std::filesystem::path& path);
+
+/// The working directory, where the storage looks for its file, for as long as the object lives.
+class WorkingDirectory
+{
+public:
+  explicit WorkingDirectory(const std::filesystem::path& folder);
+  WorkingDirectory(const WorkingDirectory&) = delete;
+  WorkingDirectory& operator=(const WorkingDirectory&) = delete;
+  ~WorkingDirectory();
+
+private:
+  std::filesystem::path m_former;
+};
