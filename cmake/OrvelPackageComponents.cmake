@@ -1,6 +1,7 @@
-# Refuses components that a package does not have, in words that name those it has, and marks those it has as found.
+# Part of a package's configuration file. Of the components that find_package asks for, marks those in <package>_COMPONENTS as
+# found, and refuses the others in words that name those that the package has.
 #
-#   orvel_check_components(<package> <component> ...)
+#   orvel_check_components(<package>)
 macro(orvel_check_components package)
   foreach(component IN LISTS ${package}_FIND_COMPONENTS)
     if("${component}" IN_LIST ${package}_COMPONENTS)

@@ -81,6 +81,10 @@ class DebianPackages(FolderTest):
         self.assertIn("55 commands", run(tool, "import", example / "job.toml", job, **libraries))
         run(tool, "check", job, "--model-ids", example / "model_ids.toml", **libraries)
         self.assertEqual((example / "job.toml").read_text(), BENT_DUCT.read_text())
+        program = "import orvelcommands; print(orvelcommands.Gyre_Parfile.__name__, orvelcommands.__file__)"
+        packages = root / "usr/lib/python3/dist-packages"
+        self.assertEqual(run("/usr/bin/python3", "-B", "-c", program, PYTHONPATH=str(packages), **libraries),
+                         f"Gyre_Parfile {packages}/orvelcommands/__init__.py\n")
 
     def test_leave_nothing_behind_when_they_are_purged(self):
         root = self.folder / "purged root"
