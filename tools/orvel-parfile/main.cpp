@@ -7,6 +7,7 @@
 #include <CLI/CLI.hpp>
 #include <H5Cpp.h>
 
+#include <cstdlib>
 #include <iostream>
 
 namespace
@@ -60,6 +61,10 @@ int main(int argument_count, char** arguments)
   try
   {
     return Run(argument_count, arguments);
+  }
+  catch (const UnwritableFile& error)
+  {
+    std::_Exit(Report(error.what(), exitUnusable));
   }
   catch (const UnusableInput& error)
   {
