@@ -1,14 +1,17 @@
 #include "job/scratch_folder.h"
 #include "subcommands/subcommands.h"
 #include "support/exit_code.h"
+#include "support/raw_words.h"
 
 #include "OrvelCommands/foundation/KLV_Exception.h"
 
 #include <CLI/CLI.hpp>
 #include <H5Cpp.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <iostream>
+#include <utility>
 
 namespace
 {
@@ -39,10 +42,14 @@ int Run(int argument_count, char** arguments)
   AddExport(tool);
   AddCheck(tool);
   AddShow(tool);
+  AddSet(tool);
+  AddUnset(tool);
   AddSchema(tool);
   try
   {
-    tool.parse(argument_count, arguments);
+    std::vector<std::string> words = ReadArguments(argument_count, arguments);
+    std::reverse(words.begin(), words.end());  // the order that CLI11 takes
+    tool.parse(std::move(words));
   }
   catch (const CLI::ParseError& error)
   {
