@@ -45,6 +45,7 @@ int Run(int argument_count, char** arguments)
   AddSet(tool);
   AddUnset(tool);
   AddSchema(tool);
+  AddComplete(tool);
   try
   {
     std::vector<std::string> words = ReadArguments(argument_count, arguments);

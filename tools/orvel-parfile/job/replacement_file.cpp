@@ -70,7 +70,7 @@ void ReplacementFile::CopyFromPlace() const
   }
   if (error)
   {
-    Refuse(m_place, "copied", error.message());
+    throw UnwritableFile(m_place.parent_path().string());
   }
 }
 

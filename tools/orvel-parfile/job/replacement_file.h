@@ -21,7 +21,7 @@ public:
   /// The file under work, which is the user's to make.
   std::filesystem::path Path() const;
 
-  /// Makes the file as a copy of what stands in the place. Throws: UnusableInput when that is not possible.
+  /// Makes the file as a copy of what stands in the place. Throws: UnwritableFile.
   void CopyFromPlace() const;
 
   /// Gives the file the rights and, where possible, the owner of what stands in the place.
