@@ -2,7 +2,7 @@
 
 #include "support/exit_code.h"
 #include "support/nearest_name.h"
-#include "support/toml_input.h"
+#include "support/printable.h"
 
 #include <algorithm>
 #include <set>

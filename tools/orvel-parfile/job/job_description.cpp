@@ -3,6 +3,7 @@
 #include "read_value.h"
 #include "support/exit_code.h"
 #include "support/nearest_name.h"
+#include "support/printable.h"
 #include "support/schema_names.h"
 #include "support/toml_input.h"
 
@@ -185,7 +186,7 @@ private:
             NearestName(name, StoredTypeNames()), name);
       return;
     }
-    const bool in_hex = type->shape == ValueShape::Text && table.contains(kHexMember);
+    const bool in_hex = HasHexForm(*type) && table.contains(kHexMember);
     const toml::array* values = table[in_hex ? kHexMember : kValuesMember].as_array();
     if (!IsName(subject.key))
     {
@@ -200,7 +201,7 @@ private:
     JobKey key{subject.key, type, {}, PlaceOf(table), {}};
     for (const toml::node& node : *values)
     {
-      if (auto value = in_hex ? ReadBytes(node) : ReadValue(node, *type))
+      if (auto value = in_hex ? ReadHexValue(node, *type) : ReadValue(node, *type))
       {
         key.items.push_back({std::move(*value), PlaceOf(node)});
       }

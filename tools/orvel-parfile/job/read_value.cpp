@@ -1,7 +1,10 @@
 #include "read_value.h"
 
+#include "job_description.h"
+
 #include <algorithm>
 #include <cctype>
+#include <cstring>
 #include <utility>
 
 namespace schema = orvel::schema;
@@ -26,21 +29,31 @@ std::optional<std::string> AsText(const toml::node& node)
   return text && text->find('\0') == std::string::npos ? text : std::nullopt;
 }
 
-// Bytes as pairs of hexadecimal digits.
-std::optional<std::string> AsBytes(const toml::node& node)
+bool AreHexDigits(const std::string& text, std::size_t group)
 {
-  const auto digits = node.value_exact<std::string>();
-  const auto is_digit = [](unsigned char character) { return std::isxdigit(character) != 0; };
-  if (!digits || digits->size() % 2 != 0 || !std::all_of(digits->begin(), digits->end(), is_digit))
-  {
-    return std::nullopt;
-  }
+  return text.size() % group == 0 &&
+         std::all_of(text.begin(), text.end(), [](unsigned char character) { return std::isxdigit(character) != 0; });
+}
+
+std::optional<std::string> BytesOfHex(const std::string& digits)
+{
   std::string bytes;
-  for (std::size_t start = 0; start < digits->size(); start += 2)
+  for (std::size_t start = 0; start < digits.size(); start += 2)
   {
-    bytes += static_cast<char>(std::stoi(digits->substr(start, 2), nullptr, 16));
+    bytes += static_cast<char>(std::stoul(digits.substr(start, 2), nullptr, 16));
   }
   return bytes.find('\0') == std::string::npos ? std::optional<std::string>(bytes) : std::nullopt;
+}
+
+std::vector<double> NumbersOfHex(const std::string& digits)
+{
+  std::vector<double> numbers;
+  for (std::size_t start = 0; start < digits.size(); start += kHexDigitsOfNumber)
+  {
+    const std::uint64_t bits = std::stoull(digits.substr(start, kHexDigitsOfNumber), nullptr, 16);
+    std::memcpy(&numbers.emplace_back(), &bits, sizeof bits);
+  }
+  return numbers;
 }
 
 // Most enumerations have the codes of letters as their numbers.
@@ -176,7 +189,26 @@ std::optional<JobValue> ReadValue(const toml::node& node, const schema::Field& f
   }
 }
 
-std::optional<JobValue> ReadBytes(const toml::node& node)
+bool HasHexForm(const StoredType& type)
 {
-  return AsJobValue(AsBytes(node));
+  return type.shape == ValueShape::Text || type.shape == ValueShape::Number || type.shape == ValueShape::NumberList;
+}
+
+std::optional<JobValue> ReadHexValue(const toml::node& node, const StoredType& type)
+{
+  const auto digits = node.value_exact<std::string>();
+  if (!digits || !AreHexDigits(*digits, type.shape == ValueShape::Text ? 2 : kHexDigitsOfNumber))
+  {
+    return std::nullopt;
+  }
+  if (type.shape == ValueShape::Text)
+  {
+    return AsJobValue(BytesOfHex(*digits));
+  }
+  std::vector<double> numbers = NumbersOfHex(*digits);
+  if (type.shape == ValueShape::NumberList)
+  {
+    return JobValue(std::move(numbers));
+  }
+  return numbers.size() == 1 ? std::optional<JobValue>(numbers.front()) : std::nullopt;
 }

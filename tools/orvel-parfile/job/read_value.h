@@ -25,5 +25,9 @@ std::optional<JobValue> ReadValue(const toml::node& node, const orvel::schema::F
 std::optional<JobValue> ReadValue(const toml::node& node, const StoredType& type);
 /// @}
 
-/// A text from its bytes as pairs of hexadecimal digits.
-std::optional<JobValue> ReadBytes(const toml::node& node);
+/// Whether values of this type also stand in hexadecimal digits, as kHexMember tells.
+bool HasHexForm(const StoredType& type);
+
+/// The value of which the digits stand in a node. Nothing when they do not fit.
+/// Requires: HasHexForm.
+std::optional<JobValue> ReadHexValue(const toml::node& node, const StoredType& type);

@@ -3,8 +3,8 @@
 #include "read_value.h"
 #include "support/exit_code.h"
 #include "support/nearest_name.h"
+#include "support/printable.h"
 #include "support/schema_names.h"
-#include "support/toml_input.h"
 
 #include <toml++/toml.h>
 
