@@ -99,7 +99,11 @@ Candidates ValuesOf(const std::string& option)
   {
     return StoredTypeNames();
   }
-  return option == "--model-ids" ? Candidates{kTomlFiles} : Candidates{"<files .svg>", "<files .dot>"};
+  if (option == "--color")
+  {
+    return {"auto", "always", "never"};
+  }
+  return option == "--model-ids" ? Candidates{kTomlFiles} : Candidates{kFolders};
 }
 
 // The job that a command line is about, empty when it cannot be read.
