@@ -126,4 +126,5 @@ void RemoveScratchFolderOnSignals()
       ::signal(signal, SIG_IGN);
     }
   }
+  ::signal(SIGXFSZ, SIG_IGN);  // a file that may not grow is a failure of writing like any other
 }

@@ -19,5 +19,8 @@ void AddCheck(CLI::App& tool);
 void AddShow(CLI::App& tool);
 void AddDiff(CLI::App& tool);
 void AddGraph(CLI::App& tool);
+void AddSet(CLI::App& tool);
+void AddUnset(CLI::App& tool);
+void AddComplete(CLI::App& tool);
 void AddSchema(CLI::App& tool);
 /// @}

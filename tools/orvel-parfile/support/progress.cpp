@@ -26,7 +26,7 @@ Progress::~Progress()
 {
   if (m_is_shown)
   {
-    std::cerr << "\r\033[K" << std::flush;
+    std::clog << "\r\033[K" << std::flush;
   }
 }
 
@@ -42,7 +42,7 @@ void Progress::Step()
   {
     m_next = now + kInterval;
     m_is_shown = true;
-    std::cerr << "\r\033[K" << m_what << ": " << State(now) << std::flush;
+    std::clog << "\r\033[K" << m_what << ": " << State(now) << std::flush;
   }
 }
 
