@@ -5,11 +5,14 @@
 # Without PACKAGE it is a module of the platform: OrvelUtilities gets the alias Orvel::Utilities and belongs to the package
 # OrvelPlatform. With PACKAGE the alias is <package>::<target>. The installed packages give the same names. The include root
 # is the parent of the calling folder, so that headers are included as "<target>/<Header>.h".
+#
+# What is installed belongs to the component lib (what programs need to run) or dev (what building against it needs).
 include_guard(GLOBAL)
 include(CMakePackageConfigHelpers)
 include(GenerateExportHeader)
 include(GNUInstallDirs)
 include(OrvelBuildFlags)
+include(OrvelPkgConfig)
 
 function(orvel_add_module target)
   cmake_parse_arguments(PARSE_ARGV 1 module "" "PACKAGE" "SOURCES;HEADERS;PUBLIC_LINKS;PRIVATE_LINKS")
@@ -42,23 +45,40 @@ function(orvel_add_module target)
     "$<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>")
   target_link_libraries(${target} PUBLIC ${module_PUBLIC_LINKS} PRIVATE ${module_PRIVATE_LINKS})
 
-  install(TARGETS ${target} EXPORT ${package}Targets)
-  install(FILES "${export_header}" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/${target}")
+  install(TARGETS ${target} EXPORT ${package}Targets
+    RUNTIME COMPONENT lib
+    LIBRARY COMPONENT lib NAMELINK_COMPONENT dev
+    ARCHIVE COMPONENT dev)
+  orvel_install_pkg_config(${target} LINKS ${module_PUBLIC_LINKS})
+  install(FILES "${export_header}" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/${target}" COMPONENT dev)
   foreach(header IN LISTS module_HEADERS)
     cmake_path(GET header PARENT_PATH folder)
-    install(FILES ${header} DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/${target}/${folder}")
+    install(FILES ${header} DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/${target}/${folder}" COMPONENT dev)
     set_property(GLOBAL APPEND PROPERTY ORVEL_PUBLIC_HEADERS "${CMAKE_CURRENT_SOURCE_DIR}/${header}")
   endforeach()
+  set_property(GLOBAL APPEND PROPERTY ORVEL_MODULES ${target})
 endfunction()
 
 # Installs what find_package(<package> CONFIG) reads: the targets of the package's modules, found through
 # cmake/<package>Config.cmake.in.
 function(orvel_install_package package namespace)
   set(folder "${CMAKE_INSTALL_LIBDIR}/cmake/${package}")
-  install(EXPORT ${package}Targets NAMESPACE ${namespace}:: DESTINATION "${folder}")
-  configure_package_config_file("${PROJECT_SOURCE_DIR}/cmake/${package}Config.cmake.in"
-    "${PROJECT_BINARY_DIR}/${package}Config.cmake" INSTALL_DESTINATION "${folder}")
-  write_basic_package_version_file("${PROJECT_BINARY_DIR}/${package}ConfigVersion.cmake" COMPATIBILITY SameMajorVersion)
-  install(FILES "${PROJECT_BINARY_DIR}/${package}Config.cmake" "${PROJECT_BINARY_DIR}/${package}ConfigVersion.cmake"
-    DESTINATION "${folder}")
+  install(EXPORT ${package}Targets NAMESPACE ${namespace}:: DESTINATION "${folder}" COMPONENT dev)
+  configure_package_config_file("${CMAKE_CURRENT_FUNCTION_LIST_DIR}/${package}Config.cmake.in"
+    "${PROJECT_BINARY_DIR}/${package}Config.cmake"
+    INSTALL_DESTINATION "${folder}"
+    PATH_VARS CMAKE_INSTALL_BINDIR)
+  # Before 1.0.0 a minor version may break what was; see docs/versions.md.
+  if(PROJECT_VERSION_MAJOR EQUAL 0)
+    set(compatibility SameMinorVersion)
+  else()
+    set(compatibility SameMajorVersion)
+  endif()
+  write_basic_package_version_file("${PROJECT_BINARY_DIR}/${package}ConfigVersion.cmake"
+    COMPATIBILITY ${compatibility})
+  install(FILES
+    "${PROJECT_BINARY_DIR}/${package}Config.cmake"
+    "${PROJECT_BINARY_DIR}/${package}ConfigVersion.cmake"
+    "${CMAKE_CURRENT_FUNCTION_LIST_DIR}/OrvelPackageComponents.cmake"
+    DESTINATION "${folder}" COMPONENT dev)
 endfunction()

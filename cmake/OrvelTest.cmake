@@ -15,10 +15,10 @@ endfunction()
 
 # A Python test program (unittest) as one test of CTest, run by Debian's Python, which has h5py.
 #
-#   orvel_add_python_test(<name> <file> [ENVIRONMENT NAME=value ...])
+#   orvel_add_python_test(<name> <file> [ARGUMENTS ...] [ENVIRONMENT NAME=value ...])
 function(orvel_add_python_test name file)
-  cmake_parse_arguments(PARSE_ARGV 2 test "" "" "ENVIRONMENT")
+  cmake_parse_arguments(PARSE_ARGV 2 test "" "" "ARGUMENTS;ENVIRONMENT")
   find_program(ORVEL_PYTHON python3 PATHS /usr/bin NO_DEFAULT_PATH REQUIRED)
-  add_test(NAME ${name} COMMAND "${ORVEL_PYTHON}" -B "${CMAKE_CURRENT_SOURCE_DIR}/${file}")
+  add_test(NAME ${name} COMMAND "${ORVEL_PYTHON}" -B "${CMAKE_CURRENT_SOURCE_DIR}/${file}" ${test_ARGUMENTS})
   set_tests_properties(${name} PROPERTIES TIMEOUT 600 ENVIRONMENT "${test_ENVIRONMENT};${ORVEL_TEST_ENVIRONMENT}")
 endfunction()

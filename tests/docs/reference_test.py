@@ -66,7 +66,8 @@ class Reference(unittest.TestCase):
         self.assertEqual({path.relative_to(prefix).parts[:3] for path in prefix.rglob("*") if path.is_file()},
                          {("share", "doc", "orvelcommands")})
         for name in ("html/index.html", "html/classDV__.html", "tour.md", "architecture.svg", "examples/README.md",
-                     "examples/bent_duct/job.toml", "examples/map_storage/MapStorage.h", "examples/consumer/CMakeLists.txt"):
+                     "examples/bent_duct/job.toml", "examples/map_storage/MapStorage.h",
+                     "examples/consumer/list_filters/CMakeLists.txt"):
             self.assertTrue((documentation / name).is_file(), name)
         self.assertFalse((documentation / "examples" / "CMakeLists.txt").exists())
 

@@ -1,42 +1,45 @@
-"""The installed packages, as an outside project finds and links them. Run by CTest, which says where the build lies."""
+"""What is installed, by component, and what find_package says of it."""
 
 import os
-import subprocess
-import tempfile
+import re
 import unittest
-from pathlib import Path
 
-REPOSITORY = Path(__file__).resolve().parents[2]
-CMAKE = os.environ["ORVEL_CMAKE"]
-SANITIZE = os.environ.get("ORVEL_SANITIZE", "")
+from support import CMAKE, PREFIX, FolderTest, prefix_path, run, run_freely
 
-
-def run(*command, folder=None):
-    ended = subprocess.run([str(word) for word in command], cwd=folder, capture_output=True, text=True, check=False)
-    if ended.returncode != 0:
-        raise AssertionError(f"{command} ended with {ended.returncode}\n{ended.stdout}\n{ended.stderr}")
-    return ended.stdout
+BUILD = os.environ["ORVEL_BUILD"]
+MODULES = ("BaseObjects", "CmdEngine", "Commands", "DbFactory", "Ids", "Utilities")
 
 
-def configure_and_build(source, build, *options):
-    flags = f"-DCMAKE_CXX_FLAGS=-fsanitize={SANITIZE}" if SANITIZE else "-DCMAKE_CXX_FLAGS="
-    run(CMAKE, "-S", source, "-B", build, "-G", "Ninja", "-DCMAKE_BUILD_TYPE=Debug", flags, *options)
-    run(CMAKE, "--build", build)
+class InstalledFiles(FolderTest):
+    def component(self, name):
+        """The files of one component, without the headers, and with "N" for the numbers of the version."""
+        prefix = self.folder / name
+        run(CMAKE, "--install", BUILD, "--prefix", prefix, "--component", name)
+        files = (path.relative_to(prefix).as_posix() for path in prefix.rglob("*") if not path.is_dir())
+        return sorted(re.sub(r"[.]\d+", ".N", file) for file in files if not file.startswith("include/"))
 
+    def test_of_the_component_lib_are_the_shared_libraries(self):
+        expected = [f"lib/libOrvel{module}.so.N{rest}" for module in MODULES for rest in ("", ".N.N")]
+        self.assertEqual(self.component("lib"), sorted(expected))
 
-class InstalledPackages(unittest.TestCase):
-    @classmethod
-    def setUpClass(cls):
-        cls.folder = tempfile.TemporaryDirectory(prefix="orvel install ")
-        cls.prefix = Path(cls.folder.name) / "a prefix"
-        run(CMAKE, "--install", os.environ["ORVEL_BUILD"], "--prefix", cls.prefix)
+    def test_of_the_component_dev_is_what_building_needs(self):
+        configuration = r"-\w+[.]cmake$"
+        files = [file for file in self.component("dev") if not re.search("Targets" + configuration, file)]
+        packages = [f"lib/cmake/{package}/{file}.cmake" for package in ("OrvelCommands", "OrvelPlatform")
+                    for file in (f"{package}Config", f"{package}ConfigVersion", f"{package}Targets",
+                                 "OrvelPackageComponents")]
+        links = [f"lib/libOrvel{module}.so" for module in MODULES]
+        for_pkg_config = [f"lib/pkgconfig/{name}.pc" for name in (
+            "orvel-baseobjects", "orvel-cmdengine", "orvel-dbfactory", "orvel-ids", "orvel-utilities", "orvelcommands")]
+        self.assertEqual(files, sorted(packages + links + for_pkg_config))
 
-    @classmethod
-    def tearDownClass(cls):
-        cls.folder.cleanup()
+    def test_of_the_component_tools_is_the_tool(self):
+        files = self.component("tools")
+        self.assertIn("bin/orvel-parfile", files)
+        self.assertEqual([file for file in files if not file.startswith(("bin/", "share/"))], [])
 
     def test_hold_the_public_headers_and_none_of_ours(self):
-        include = self.prefix / "include"
+        include = PREFIX / "include"
         names = {path.relative_to(include).as_posix() for path in include.rglob("*.h")}
         for name in ("OrvelCommands/orvelcommands_export.h", "OrvelCommands/foundation/KLV_Failure.h",
                      "OrvelCommands/storage/ParfileHdf5Storage.h",
@@ -53,23 +56,48 @@ class InstalledPackages(unittest.TestCase):
             with self.subTest(header=name):
                 self.assertNotIn(name, names)
 
-    def test_serve_an_outside_project_from_a_prefix_with_blanks(self):
-        build = Path(self.folder.name) / "consumer"
-        configure_and_build(REPOSITORY / "examples" / "consumer", build, f"-DCMAKE_PREFIX_PATH={self.prefix}")
-        job = Path(self.folder.name) / "job"
-        job.mkdir()
-        run(self.prefix / "bin" / "orvel-parfile", "import", REPOSITORY / "examples" / "bent_duct" / "job.toml", job)
-        self.assertEqual(run(build / "list_filters", folder=job),
-                         "porosity: pipe_transition, BD_TRANSITION, radius 0.016\n"
-                         "wall_offset: wall_smoothing, SIGMUND_SURFACE, radius 0.012\n"
-                         "wall_offset: flange_plane, DA_PLANE_NORMAL, radius 0.012\n")
 
-    def test_give_a_platform_that_the_library_builds_on_in_place_of_the_bundled_one(self):
-        build = Path(self.folder.name) / "external"
-        configure_and_build(REPOSITORY, build, f"-DCMAKE_PREFIX_PATH={self.prefix}", "-DORVEL_PLATFORM=external",
-                            "-DBUILD_TESTING=OFF", "-DORVEL_BUILD_TOOLS=OFF", "-DORVEL_BUILD_EXAMPLES=OFF")
-        libraries = sorted(path.name for path in build.rglob("*.so"))
-        self.assertEqual(libraries, ["libOrvelCommands.so"])
+class FindPackage(FolderTest):
+    def find(self, *words):
+        """Configures a project that finds a package, and gives how that ended, its texts in one line."""
+        source = self.folder / "finds"
+        source.mkdir(exist_ok=True)
+        (source / "CMakeLists.txt").write_text(
+            "cmake_minimum_required(VERSION 3.21)\n"
+            "project(Finds LANGUAGES CXX)\n"
+            f"find_package({' '.join(words)})\n"
+            "foreach(target OrvelCommands::OrvelCommands OrvelCommands::orvel-parfile Orvel::Ids)\n"
+            "  if(TARGET ${target})\n"
+            '    message(STATUS "gives ${target}")\n'
+            "  endif()\n"
+            "endforeach()\n")
+        ended = run_freely(CMAKE, "-S", source, "-B", self.folder / "found", "-G", "Ninja", prefix_path(PREFIX))
+        return ended.returncode, " ".join((ended.stdout + ended.stderr).split())
+
+    def test_gives_the_library_the_tool_and_the_platform(self):
+        code, text = self.find("OrvelCommands CONFIG REQUIRED COMPONENTS library tools")
+        self.assertEqual(code, 0, text)
+        for target in ("OrvelCommands::OrvelCommands", "OrvelCommands::orvel-parfile", "Orvel::Ids"):
+            self.assertIn(f"gives {target}", text)
+
+    def test_refuses_a_component_that_is_not_there_and_tells_those_that_are(self):
+        code, text = self.find("OrvelCommands CONFIG REQUIRED COMPONENTS library wheels")
+        self.assertNotEqual(code, 0)
+        self.assertIn('OrvelCommands has no component "wheels" here. It has: library, tools.', text)
+        code, text = self.find("OrvelPlatform CONFIG REQUIRED COMPONENTS Ids Wheels")
+        self.assertNotEqual(code, 0)
+        self.assertIn('OrvelPlatform has no component "Wheels" here. '
+                      'It has: Utilities, BaseObjects, CmdEngine, Ids, DbFactory.', text)
+
+    def test_goes_on_without_a_component_that_is_optional(self):
+        code, text = self.find("OrvelCommands CONFIG REQUIRED COMPONENTS library OPTIONAL_COMPONENTS wheels")
+        self.assertEqual(code, 0, text)
+        self.assertIn("gives OrvelCommands::OrvelCommands", text)
+
+    def test_refuses_another_major_version(self):
+        code, text = self.find("OrvelCommands 99 CONFIG REQUIRED")
+        self.assertNotEqual(code, 0)
+        self.assertIn('compatible with requested version "99"', text)
 
 
 if __name__ == "__main__":

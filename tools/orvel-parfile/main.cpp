@@ -8,6 +8,8 @@
 
 #include <CLI/CLI.hpp>
 #include <H5Cpp.h>
+#include <poll.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <cstdlib>
@@ -23,11 +25,22 @@ int Report(const std::string& what, ExitCode code)
   return code;
 }
 
+// A pipe that nobody reads any more: where the signal that tells so is blocked, the tool ends as quietly without it.
+bool IsBrokenPipe(int descriptor)
+{
+  pollfd output{descriptor, POLLOUT, 0};
+  return poll(&output, 1, 0) == 1 && (output.revents & POLLERR) != 0;
+}
+
 // Output that is lost is no success.
 ExitCode FlushOutput()
 {
   if (!std::cout.flush())
   {
+    if (IsBrokenPipe(STDOUT_FILENO))
+    {
+      return exitUnusable;
+    }
     throw UnusableInput("the output cannot be written");
   }
   return exitGood;
@@ -43,6 +56,8 @@ int Run(int argument_count, char** arguments)
   AddExport(tool);
   AddCheck(tool);
   AddShow(tool);
+  AddDiff(tool);
+  AddGraph(tool);
   AddSet(tool);
   AddUnset(tool);
   AddSchema(tool);
@@ -56,6 +71,10 @@ int Run(int argument_count, char** arguments)
   catch (const CLI::ParseError& error)
   {
     return tool.exit(error) == 0 ? FlushOutput() : exitUnusable;
+  }
+  catch (const FaultsAreTold&)
+  {
+    return FlushOutput() == exitGood ? exitFaults : exitUnusable;
   }
   return FlushOutput();
 }

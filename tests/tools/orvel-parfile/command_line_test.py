@@ -26,7 +26,14 @@ class HelpAndVersion(ToolTest):
         self.assert_helps(("check",), "Usage: orvel-parfile check ", "file", "--model-ids", "--job", "gyre", "smooth")
 
     def test_the_help_of_show_names_its_arguments(self):
-        self.assert_helps(("show",), "Usage: orvel-parfile show ", "file", "--job", "gyre", "smooth")
+        self.assert_helps(("show",), "Usage: orvel-parfile show ", "file", "kind", "id", "--log", "--json", "--job", "gyre",
+                          "smooth", "--color", "Example: ")
+
+    def test_the_help_of_diff_names_its_arguments(self):
+        self.assert_helps(("diff",), "Usage: orvel-parfile diff ", "before", "after", "--json", "--color", "Example: ")
+
+    def test_the_help_of_graph_names_its_arguments(self):
+        self.assert_helps(("graph",), "Usage: orvel-parfile graph ", "file", "--output", "--no-groups", "Example: ")
 
     def test_the_help_of_set_and_unset_names_their_arguments(self):
         self.assert_helps(("set",), "Usage: orvel-parfile set ", "[FILE] KIND ID KEY VALUE...", "--new", "--type")
@@ -71,7 +78,7 @@ class WrongUse(ToolTest):
         self.copy_example("bent_duct")
         self.assert_wrong_use("import", "job.toml", ".", "again", says="again")
         self.assert_wrong_use("check", ".", "again", says="again")
-        self.assert_wrong_use("show", ".", "again", says="again")
+        self.assert_wrong_use("show", ".", "DV_", "porosity", "again", says="again")
 
     def test_set_and_unset_without_what_to_change(self):
         self.assert_wrong_use("set", says="words")
@@ -85,7 +92,11 @@ class WrongUse(ToolTest):
     def test_import_without_a_job(self):
         self.assert_wrong_use("import", says="job")
 
+    def test_diff_of_one_thing(self):
+        self.assert_wrong_use("diff", ".", says="after")
+
     def test_an_option_without_its_value(self):
+        self.assert_wrong_use("graph", "-o", says="--output")
         self.assert_wrong_use("check", "--model-ids", says="--model-ids")
         self.assert_wrong_use("check", "--job", says="--job")
 

@@ -65,7 +65,7 @@ class ToolTest(unittest.TestCase):
         run = subprocess.run(
             [TOOL, *map(str, arguments)], cwd=options.pop("cwd", self.folder), stdin=subprocess.DEVNULL,
             stdout=options.pop("stdout", subprocess.PIPE), stderr=subprocess.PIPE, timeout=120,
-            env={**os.environ, "TMPDIR": str(self.scratch)}, check=False, **options)
+            env={**os.environ, "TMPDIR": str(self.scratch), **options.pop("environment", {})}, check=False, **options)
         result = Result(run.returncode, (run.stdout or b"").decode(), run.stderr.decode())
         self.assertNotIn("HDF5-DIAG", result.out + result.err)
         self.assertEqual(names_in(self.scratch), [])

@@ -3,6 +3,7 @@
 #include "parameter_file.h"
 #include "support/exit_code.h"
 #include "support/hdf5_handle.h"
+#include "support/progress.h"
 
 #include <algorithm>
 #include <cstring>
@@ -43,6 +44,21 @@ std::vector<Link> LinksOf(hid_t group)
     throw UnusableInput("the names of a group of the parameter file cannot be read");
   }
   return links;
+}
+
+// How many members the groups have to which these links lead.
+std::size_t MembersOf(hid_t group, const std::vector<Link>& links)
+{
+  std::size_t count = 0;
+  for (const Link& link : links)
+  {
+    H5G_info_t info{};
+    if (link.type == H5L_TYPE_HARD && H5Gget_info_by_name(group, link.name.c_str(), &info, H5P_DEFAULT) >= 0)
+    {
+      count += info.nlinks;
+    }
+  }
+  return count;
 }
 
 const char* LinkText(H5L_type_t type)
@@ -118,9 +134,11 @@ public:
       throw UnusableInput("the group /PARFILE cannot be opened");
     }
     NoteAttributes(parfile.Id(), "/PARFILE");
-    for (const Link& link : LinksOf(parfile.Id()))
+    const std::vector<Link> kinds = LinksOf(parfile.Id());
+    Progress progress("reading", MembersOf(parfile.Id(), kinds));
+    for (const Link& link : kinds)
     {
-      ReadKind(parfile.Id(), link);
+      ReadKind(parfile.Id(), link, progress);
     }
     for (JobCommand& command : m_job.commands)
     {
@@ -168,7 +186,7 @@ private:
     return object;
   }
 
-  void ReadKind(hid_t parfile, const Link& link)
+  void ReadKind(hid_t parfile, const Link& link, Progress& progress)
   {
     const std::string path = "/PARFILE/" + link.name;
     const Hdf5Handle kind(OpenMember(parfile, link, H5I_GROUP, path), H5Oclose);
@@ -184,6 +202,7 @@ private:
     for (const Link& command : commands)
     {
       ReadCommand(kind.Id(), link.name, command, path + "/" + command.name);
+      progress.Step();
     }
   }
 

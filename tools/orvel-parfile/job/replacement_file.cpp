@@ -1,6 +1,5 @@
 #include "replacement_file.h"
 
-#include "parameter_file.h"
 #include "support/exit_code.h"
 
 #include <fcntl.h>
@@ -57,7 +56,7 @@ ReplacementFile::ReplacementFile(const fs::path& place) : m_place(PlaceOf(place)
 
 fs::path ReplacementFile::Path() const
 {
-  return m_folder.Path() / PARFILE_STORAGE_FILE;
+  return m_folder.File();
 }
 
 void ReplacementFile::CopyFromPlace() const

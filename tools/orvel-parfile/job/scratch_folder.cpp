@@ -123,7 +123,7 @@ ScratchFolder::ScratchFolder(const fs::path& place) : m_lock(-1)
     m_path = name;
     m_lock = TryToLock(m_path);
   }
-  SetName(scratch_file, (m_path / PARFILE_STORAGE_FILE).string());
+  SetName(scratch_file, File().string());
   SetName(scratch_folder, m_path.string());
 }
 
@@ -135,11 +135,21 @@ ScratchFolder::~ScratchFolder()
   close(m_lock);
 }
 
+fs::path ScratchFolder::File() const
+{
+  return m_path / PARFILE_STORAGE_FILE;
+}
+
 void RemoveScratchFolderOnSignals()
 {
   for (const int signal : kEndingSignals)
   {
-    ::signal(signal, RemoveAndEnd);
+    // A signal that the parent has ignored, as nohup does, stays ignored. A broken pipe ends the tool in any case: who
+    // has stopped reading wants no more work and no message.
+    if (::signal(signal, RemoveAndEnd) == SIG_IGN && signal != SIGPIPE)
+    {
+      ::signal(signal, SIG_IGN);
+    }
   }
   ::signal(SIGXFSZ, SIG_IGN);  // a file that may not grow is a failure of writing like any other
 }

@@ -17,6 +17,9 @@ public:
 
   const std::filesystem::path& Path() const { return m_path; }
 
+  /// The one file that a signal removes with the folder.
+  std::filesystem::path File() const;
+
 private:
   std::filesystem::path m_path;
   int m_lock;

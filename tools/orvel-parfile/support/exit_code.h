@@ -35,3 +35,8 @@ class FaultyInput : public std::runtime_error
 public:
   explicit FaultyInput(const std::vector<std::string>& faults);
 };
+
+/// Ends the tool with exitFaults after its output has told everything.
+struct FaultsAreTold
+{
+};

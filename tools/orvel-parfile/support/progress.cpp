@@ -17,7 +17,8 @@ Progress::Progress(std::string what, std::size_t steps)
   : m_what(std::move(what)),
     m_steps(steps),
     m_is_terminal(isatty(STDERR_FILENO) == 1),
-    m_next(std::chrono::steady_clock::now() + kFirst)
+    m_start(std::chrono::steady_clock::now()),
+    m_next(m_start + kFirst)
 {
 }
 
@@ -41,6 +42,12 @@ void Progress::Step()
   {
     m_next = now + kInterval;
     m_is_shown = true;
-    std::clog << "\r\033[K" << m_what << ": " << 100 * m_done / (m_steps > 0 ? m_steps : 1) << "%" << std::flush;
+    std::clog << "\r\033[K" << m_what << ": " << State(now) << std::flush;
   }
+}
+
+std::string Progress::State(std::chrono::steady_clock::time_point now) const
+{
+  return m_steps > 0 ? std::to_string(100 * m_done / m_steps) + "%"
+                     : std::to_string(std::chrono::duration_cast<std::chrono::seconds>(now - m_start).count()) + " s";
 }

@@ -12,7 +12,7 @@ class Progress
 {
 public:
   /// \param what what is going on, "writing"
-  /// \param steps how many steps the whole has
+  /// \param steps how many steps the whole has; with 0 the line tells the time that has passed
   Progress(std::string what, std::size_t steps);
   Progress(const Progress&) = delete;
   Progress& operator=(const Progress&) = delete;
@@ -22,10 +22,13 @@ public:
   void Step();
 
 private:
+  std::string State(std::chrono::steady_clock::time_point now) const;
+
   std::string m_what;
   std::size_t m_steps;
   std::size_t m_done = 0;
   bool m_is_shown = false;
   bool m_is_terminal;
+  std::chrono::steady_clock::time_point m_start;
   std::chrono::steady_clock::time_point m_next;
 };

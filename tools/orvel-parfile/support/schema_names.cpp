@@ -44,3 +44,14 @@ std::string IdListName(KLV_IdType type)
     default: return "element_groups";
   }
 }
+
+std::string_view KindOfIds(KLV_IdType type)
+{
+  switch (type)
+  {
+    case KLV_IdType::coordinate_system: return "CS_";
+    case KLV_IdType::node_group: return "NODE_GROUP_";
+    case KLV_IdType::face_group: return "FACE_GROUP_";
+    default: return "ELEMENT_GROUP_";
+  }
+}

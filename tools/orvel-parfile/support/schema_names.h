@@ -5,6 +5,7 @@
 #include "OrvelCommands/commands/command_schema.h"
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 std::vector<std::string> KindNames();
@@ -13,3 +14,6 @@ std::vector<std::string> EnumeratorNames(const orvel::schema::Field& field);
 
 /// The name of the list in which model ids of this type stand, "element_groups".
 std::string IdListName(KLV_IdType type);
+
+/// The kind of command that defines model ids of this type, "ELEMENT_GROUP_".
+std::string_view KindOfIds(KLV_IdType type);
