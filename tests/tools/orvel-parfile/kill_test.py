@@ -28,8 +28,10 @@ class KillTest(ToolTest):
         self.file = self.folder / FILE_NAME
 
     def start(self, *arguments):
+        # A signal that the parent of the tests ignores, the tool would ignore too.
         return subprocess.Popen([TOOL, *arguments], cwd=self.folder, stdin=subprocess.DEVNULL,
-                                stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+                                stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
+                                preexec_fn=lambda: signal.signal(signal.SIGHUP, signal.SIG_DFL))
 
     def time_of(self, *arguments):
         """How long a run takes here, in seconds."""

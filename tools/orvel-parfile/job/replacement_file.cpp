@@ -1,6 +1,5 @@
 #include "replacement_file.h"
 
-#include "parameter_file.h"
 #include "support/exit_code.h"
 
 #include <fcntl.h>

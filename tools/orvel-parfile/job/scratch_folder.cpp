@@ -26,6 +26,30 @@ constexpr const char* kPrefix = ".orvel-parfile.";
 std::array<char, 4096> scratch_folder{};
 std::array<char, 4096> scratch_file{};
 
+constexpr std::array<int, 4> kEndingSignals = {SIGINT, SIGTERM, SIGHUP, SIGPIPE};
+
+// Lets the signals that end the tool wait: a folder that is made must be known to their handler.
+class SignalsWait
+{
+public:
+  SignalsWait()
+  {
+    sigset_t ending;
+    sigemptyset(&ending);
+    for (const int signal : kEndingSignals)
+    {
+      sigaddset(&ending, signal);
+    }
+    sigprocmask(SIG_BLOCK, &ending, &m_former);
+  }
+  SignalsWait(const SignalsWait&) = delete;
+  SignalsWait& operator=(const SignalsWait&) = delete;
+  ~SignalsWait() { sigprocmask(SIG_SETMASK, &m_former, nullptr); }
+
+private:
+  sigset_t m_former{};
+};
+
 void RemoveAndEnd(int signal)
 {
   if (scratch_folder[0] != '\0')
@@ -83,6 +107,7 @@ ScratchFolder::ScratchFolder(const fs::path& place) : m_lock(-1)
 {
   const fs::path parent = place.parent_path();
   RemoveAbandoned(parent);
+  const SignalsWait wait;
   // Another process may take a folder for abandoned between its making and its locking: then comes the next one.
   while (m_lock < 0 || !fs::exists(m_path))
   {
@@ -117,7 +142,7 @@ fs::path ScratchFolder::File() const
 
 void RemoveScratchFolderOnSignals()
 {
-  for (const int signal : {SIGINT, SIGTERM, SIGHUP, SIGPIPE})
+  for (const int signal : kEndingSignals)
   {
     // A signal that the parent has ignored, as nohup does, stays ignored. A broken pipe ends the tool in any case: who
     // has stopped reading wants no more work and no message.

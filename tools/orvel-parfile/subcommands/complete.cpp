@@ -14,6 +14,7 @@
 #include "support/file_argument.h"
 #include "support/raw_words.h"
 #include "support/schema_names.h"
+#include "support/style.h"
 
 #include <CLI/CLI.hpp>
 
@@ -101,7 +102,7 @@ Candidates ValuesOf(const std::string& option)
   }
   if (option == "--color")
   {
-    return {"auto", "always", "never"};
+    return {kColorAuto, kColorAlways, kColorNever};
   }
   return option == "--model-ids" ? Candidates{kTomlFiles} : Candidates{kFolders};
 }
