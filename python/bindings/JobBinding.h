@@ -88,15 +88,15 @@ private:
 
   static void ValidateModelIds(const Pointer& self, const pybind11::object& model_ids)
   {
-    self->storage->Open();  // the aggregate asks it for the ids once more
     const OpenModelIds database(model_ids);
+    self->storage->Open();  // The aggregate asks it for the ids; what gave the names may have closed it.
     self->parfile.ValidateModelIds();
   }
 
   static pybind11::list FindModelIdProblems(const Pointer& self, const pybind11::object& model_ids)
   {
-    const ParfileHdf5Storage& storage = self->storage->Open();
     const OpenModelIds database(model_ids);
+    const ParfileHdf5Storage& storage = self->storage->Open();
     std::vector<KLV_ParfileException> problems;
     ForEachCommand(self->parfile, [&](auto command) {  // a copy: the check is no const operation
       std::string id = command.GetID_NAME_();

@@ -3,6 +3,7 @@
 #include <H5Cpp.h>
 
 #include <algorithm>
+#include <system_error>
 #include <vector>
 
 namespace fs = std::filesystem;

@@ -6,6 +6,7 @@
 
 #include <H5Cpp.h>
 
+#include <cerrno>
 #include <filesystem>
 
 namespace py = pybind11;

@@ -2,11 +2,10 @@ from collections.abc import Sequence
 from os import PathLike
 from typing import Literal, Union
 
-from typing_extensions import Self, TypeAlias, final
+from typing_extensions import Self, TypeAlias
 
 _Value: TypeAlias = Union[int, float, str, Sequence[int], Sequence[float]]
 
-@final
 class ParfileHdf5Storage:
     def __init__(self, folder: str | PathLike[str] = ".", mode: Literal["r", "r+", "x"] = "r") -> None: ...
     def close(self) -> None: ...

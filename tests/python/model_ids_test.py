@@ -77,3 +77,24 @@ def test_the_storage_must_be_open(bent_duct, model_ids):
         job.ValidateModelIds(model_ids)
     with pytest.raises(ValueError, match="the storage is closed"):
         job.FindModelIdProblems(model_ids)
+
+
+@pytest.mark.parametrize("check", [Gyre_Parfile.ValidateModelIds, Gyre_Parfile.FindModelIdProblems])
+def test_names_that_close_the_storage_as_they_are_read_do_no_harm(bent_duct, check):
+    storage = ParfileHdf5Storage(bent_duct)
+    job = Gyre_Parfile(storage)
+
+    def names():
+        yield "inlet"
+        storage.close()
+
+    with pytest.raises(ValueError, match="^the storage is closed$"):
+        check(job, {"face_groups": names()})
+
+
+def test_a_check_within_a_check_leaves_the_outer_one_its_names(job, model_ids):
+    def names():
+        assert len(job.FindModelIdProblems({})) == 50
+        yield from model_ids["face_groups"]
+
+    assert job.FindModelIdProblems({**model_ids, "face_groups": names()}) == []
