@@ -47,6 +47,11 @@ int Run(int argument_count, char** arguments)
   {
     return tool.exit(error) == 0 ? FlushOutput() : exitUnusable;
   }
+  catch (const FaultsPrinted&)
+  {
+    const ExitCode output = FlushOutput();
+    return output == exitGood ? exitFaults : output;
+  }
   return FlushOutput();
 }
 

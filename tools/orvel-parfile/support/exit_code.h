@@ -2,6 +2,7 @@
 /// How the tool ends.
 #pragma once
 
+#include <exception>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -26,4 +27,9 @@ class FaultyInput : public std::runtime_error
 {
 public:
   explicit FaultyInput(const std::vector<std::string>& faults);
+};
+
+/// What is wrong, or differs, has been printed as data. Ends the tool with exitFaults and without a message.
+class FaultsPrinted : public std::exception
+{
 };

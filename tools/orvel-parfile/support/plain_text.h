@@ -1,0 +1,14 @@
+/// \file
+/// Texts of unknown origin as they may stand in a line of output.
+#pragma once
+
+#include <cstddef>
+#include <string>
+
+/// A text as it stands where nothing in it can be mistaken, else quoted, with escapes as in "a\nb": control characters,
+/// bytes that are no UTF-8 and characters that turn the direction of writing do not reach a terminal. Quoted are also
+/// the empty text and one with a comma, a quotation mark or a blank at an end.
+std::string PlainText(const std::string& text);
+
+/// How many characters a UTF-8 text has.
+std::size_t CharacterCount(const std::string& text);
