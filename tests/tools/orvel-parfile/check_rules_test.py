@@ -676,6 +676,16 @@ class ModelIds(RulesTest):
         self.assertEqual([], self.found("unknown-model-id", FACE_IDS))
         self.assertEqual([], self.findings())
 
+    def test_so_many_that_looking_for_the_nearest_would_take_long_are_told_without_it(self):
+        self.job["FLOWPATHS_"]["bend"]["IN_"] = texts(*(f"face{number}" for number in range(600)))
+        self.build(self.job)
+        self.write("ids.toml", f"face_groups = {[f'faces_of_part_{number}' for number in range(1000)]}\n")
+        remedies = self.remedies("--model-ids", "ids.toml", of="unknown-model-id")
+        self.assertEqual(601, len(remedies))
+        self.assertTrue(remedies[0].startswith("the nearest is faces_of_part_0; there are faces_of_part_0, "))
+        self.assertTrue(remedies[-1].startswith("there are faces_of_part_0, "))
+        self.assertTrue(remedies[-1].endswith(" and 900 more"))
+
     def test_groups_that_no_other_command_names(self):
         self.job["NODE_GROUP_"] = {"rim": {"MERGE_": texts("rim")}, "holes": {"MERGE_": texts("rim")}}
         self.job["FACE_GROUP_"] = {"inlet": {}, "holes": {}}

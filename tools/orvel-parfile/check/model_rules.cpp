@@ -1,6 +1,6 @@
 #include "rules.h"
 
-#include "support/nearest_name.h"
+#include "name_offers.h"
 #include "support/plain_text.h"
 #include "support/schema_names.h"
 
@@ -174,10 +174,14 @@ private:
   std::string RemedyFor(const JobCommand& command, const JobKey& key, std::size_t place, KLV_IdType type)
   {
     const auto& name = std::get<std::string>(key.items[place].value);
-    const std::string* nearest = FindNearest(name, NamesOf(type));
-    return nearest == nullptr
-             ? "the model has no " + IdListName(type)
-             : Joined(NearestName(name, NamesOf(type)), m_subject.remedies.Replace(command, key, place, *nearest));
+    if (NamesOf(type).empty())
+    {
+      return "the model has no " + IdListName(type);
+    }
+    const NameOffers::Offer offer = m_offers.For(name, NamesOf(type));
+    return offer.nearest == nullptr
+             ? offer.text
+             : Joined(offer.text, m_subject.remedies.Replace(command, key, place, *offer.nearest));
   }
 
   const CheckSubject& m_subject;
@@ -187,6 +191,7 @@ private:
   std::set<KLV_IdType> m_doubtful;
   std::set<KLV_IdType> m_with_unknown;
   std::map<KLV_IdType, std::vector<std::string>> m_names;
+  NameOffers m_offers;
 };
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include "rules.h"
 
+#include "name_offers.h"
 #include "reference_graph.h"
 #include "support/nearest_name.h"
 #include "support/plain_text.h"
@@ -93,15 +94,20 @@ private:
   std::string Nearest(const JobCommand& command, const JobKey& key, std::size_t place, const std::string& kind)
   {
     const std::string& id = std::get<JobReference>(key.items[place].value).id;
-    const std::string* nearest = FindNearest(id, m_known.Of(kind));
-    return nearest == nullptr
-             ? "there is no " + kind + " at all"
-             : Joined(NearestName(id, m_known.Of(kind)), m_subject.remedies.Replace(command, key, place, *nearest));
+    if (m_known.Of(kind).empty())
+    {
+      return "there is no " + kind + " at all";
+    }
+    const NameOffers::Offer offer = m_offers.For(id, m_known.Of(kind));
+    return offer.nearest == nullptr
+             ? offer.text
+             : Joined(offer.text, m_subject.remedies.Replace(command, key, place, *offer.nearest));
   }
 
   const CheckSubject& m_subject;
   std::vector<Finding>& m_findings;
   KnownIds m_known;
+  NameOffers m_offers;
 };
 
 void CheckCounts(const CheckSubject& subject, std::vector<Finding>& findings)

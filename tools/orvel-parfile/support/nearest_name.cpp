@@ -82,8 +82,12 @@ std::string NamesText(const std::vector<std::string>& known)
   return known.size() > kMostNames ? text + " and " + std::to_string(known.size() - kMostNames) + " more" : text;
 }
 
+std::string OfferText(const std::string* nearest, const std::vector<std::string>& known)
+{
+  return nearest != nullptr ? "the nearest is " + PlainText(*nearest) + "; " + NamesText(known) : NamesText(known);
+}
+
 std::string NearestName(const std::string& name, const std::vector<std::string>& known)
 {
-  const std::string* nearest = FindNearest(name, known);
-  return nearest != nullptr ? "the nearest is " + PlainText(*nearest) + "; " + NamesText(known) : NamesText(known);
+  return OfferText(FindNearest(name, known), known);
 }
