@@ -47,6 +47,7 @@ function(orvel_add_module target)
   foreach(header IN LISTS module_HEADERS)
     cmake_path(GET header PARENT_PATH folder)
     install(FILES ${header} DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/${target}/${folder}")
+    set_property(GLOBAL APPEND PROPERTY ORVEL_PUBLIC_HEADERS "${CMAKE_CURRENT_SOURCE_DIR}/${header}")
   endforeach()
 endfunction()
 

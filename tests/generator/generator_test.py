@@ -734,5 +734,74 @@ class Write(unittest.TestCase):
             ["commands/LocalGenerated/smooth_commands.cpp"])
 
 
+class PythonModule(unittest.TestCase):
+    """The bindings and stubs of the Python module beside the sources of the library."""
+
+    @contextlib.contextmanager
+    def tree(self):
+        with folder() as place:
+            library = copy_library(place / "src" / "OrvelCommands")
+            shutil.copytree(LIBRARY.parents[1] / "python", place / "python")
+            yield library, place / "python"
+
+    def test_is_fresh(self):
+        with self.tree() as (library, _):
+            ended = run("--library", library, "--check")
+            self.assertEqual((ended.stdout, ended.returncode), ("", 0))
+
+    def test_follows_one_more_number(self):
+        with self.tree() as (library, python):
+            path = library / "commands" / "smooth_commands.toml"
+            path.write_text(insert_first_row(path.read_text(encoding="utf-8"), "SMOOTH_", NEW_ROW), encoding="utf-8")
+            self.assertEqual(run("--library", library, "--check").returncode, 1)
+            before = contents(python)
+            self.assertEqual(run("--library", library, "--write").returncode, 0)
+            self.assertEqual(changes(before, contents(python)),
+                             ["bindings/LocalGenerated/smooth_commands.cpp", "orvelcommands/commands.pyi"])
+            self.assertIn('    .Always("NEW_KEY_", &SMOOTH_::GetNEW_KEY_)\n',
+                          (python / "bindings" / "LocalGenerated" / "smooth_commands.cpp").read_text(encoding="utf-8"))
+            self.assertIn('    def NEW_KEY_(self) -> float:\n        """A new number."""\n',
+                          (python / "orvelcommands" / "commands.pyi").read_text(encoding="utf-8"))
+
+    def test_follows_one_more_command(self):
+        with self.tree() as (library, python):
+            path = library / "commands" / "gyre_commands.toml"
+            path.write_text(path.read_text(encoding="utf-8") + NEW_COMMAND, encoding="utf-8")
+            before = contents(python)
+            self.assertEqual(run("--library", library, "--write").returncode, 0)
+            self.assertEqual(changes(before, contents(python)),
+                             ["bindings/LocalGenerated/gyre_commands.cpp", "bindings/LocalGenerated/jobs.cpp",
+                              "orvelcommands/commands.pyi", "orvelcommands/parfile.pyi"])
+
+    def test_stale_stubs_and_bindings_are_found(self):
+        with self.tree() as (library, python):
+            for name in ("bindings/LocalGenerated/jobs.cpp", "orvelcommands/parfile.pyi"):
+                old = python / name
+                shutil.copy(old, old.with_stem("old"))
+            ended = run("--library", library, "--check")
+            self.assertEqual(ended.stdout.splitlines()[:2],
+                             ["bindings/LocalGenerated/old.cpp follows from no table",
+                              "orvelcommands/old.pyi follows from no table"])
+
+    def test_is_left_alone_where_there_is_none(self):
+        with folder() as place:
+            library = copy_library(place / "src" / "OrvelCommands")
+            self.assertEqual(run("--library", library, "--check").returncode, 0)
+            self.assertEqual([path.name for path in place.iterdir()], ["src"])
+
+    def test_types_tell_the_presence_of_a_key(self):
+        with folder() as library:
+            write_tables(library)
+            (library / "python").mkdir()
+            run("--library", library, "--python", library / "python", "--write")
+            stubs = (library / "python" / "orvelcommands" / "commands.pyi").read_text(encoding="utf-8")
+        for line in ("def ELEMENT_GROUP_(self) -> str | None:", "def INITIAL_(self) -> float:",
+                     "def TYPE_(self) -> Enum_TYPE_:", "def STEPS_(self) -> tuple[int, ...] | None:",
+                     "def FILTER_(self) -> tuple[_commands.FILTER_, ...]:",
+                     "def KEEP_(self) -> tuple[Enum_KEEP_, ...]:"):
+            with self.subTest(line=line):
+                self.assertIn(f"    @property\n    {line}\n", stubs)
+
+
 if __name__ == "__main__":
     unittest.main()

@@ -1,6 +1,7 @@
 #include "job/scratch_folder.h"
 #include "subcommands/subcommands.h"
 #include "support/exit_code.h"
+#include "support/printable.h"
 
 #include "OrvelCommands/foundation/KLV_Exception.h"
 
@@ -14,7 +15,7 @@ namespace
 
 int Report(const std::string& what, ExitCode code)
 {
-  std::cerr << what << "\n";
+  std::cerr << Printable(what) << "\n";
   return code;
 }
 

@@ -19,8 +19,12 @@ public:
   /// "OrvelCommand". Each command class has one of its own: the class's name, under which storages know the kind.
   static const std::string s_type;
 
+  /// Copies the reserved flag, which is all that the base holds.
   OrvelCommand(const OrvelCommand& other);
+
+  /// Takes the reserved flag of \p other.
   OrvelCommand& operator=(const OrvelCommand& other);
+
   ~OrvelCommand() override;
 
   /// The kind of command, with its trailing underscore.
@@ -32,7 +36,7 @@ public:
 protected:
   OrvelCommand();
 
-  // Part of what a copy carries; nothing in this library sets or reads it.
+  /// Part of what a copy carries; nothing in this library sets or reads it.
   bool m_reserved_flag = false;
 };
 

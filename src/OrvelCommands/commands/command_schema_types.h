@@ -18,18 +18,25 @@ template <class Item>
 class Rows
 {
 public:
+  /// No constants.
   constexpr Rows() = default;
 
+  /// The constants of an array, which must live as long as the program.
   template <std::size_t Size>
   constexpr Rows(const Item (&items)[Size]) : m_begin(items), m_size(Size)  // NOLINT(google-explicit-constructor)
   {
   }
 
+  /// \name As a container of the standard library
+  /// @{
+
+  /// Nothing is tested: a position must be below size().
   constexpr const Item* begin() const { return m_begin; }
   constexpr const Item* end() const { return m_begin + m_size; }
   constexpr std::size_t size() const { return m_size; }
   constexpr bool empty() const { return m_size == 0; }
   constexpr const Item& operator[](std::size_t position) const { return m_begin[position]; }
+  /// @}
 
 private:
   const Item* m_begin = nullptr;
@@ -39,8 +46,8 @@ private:
 /// One enumerator: its text and the number that a storage holds.
 struct Enumerator
 {
-  std::string_view name;
-  std::int32_t value;
+  std::string_view name;  ///< Without the prefix that the enumerator of the class has.
+  std::int32_t value;     ///< In the C++ enumeration and in a storage.
 };
 
 /// When a key is there.
@@ -54,9 +61,9 @@ enum class Presence
 /// One key of a command.
 struct Field
 {
-  std::string_view key;  ///< With its trailing underscore.
-  VtmType type;          ///< What moves the value; `vtmReference` for a reference to a command.
-  Presence presence;
+  std::string_view key;               ///< With its trailing underscore.
+  VtmType type;                       ///< What moves the value; `vtmReference` for a reference to a command.
+  Presence presence;                  ///< When the key is there.
   std::string_view target;            ///< The kind of command that a reference names, else empty.
   std::optional<KLV_IdType> id_type;  ///< Which names of the model a `vtmModelId` is checked against.
   Rows<Enumerator> enumerators;       ///< Of a `vtmEnum`, else empty.
@@ -66,16 +73,16 @@ struct Field
 /// How many commands of a kind a job has.
 enum class Count
 {
-  One,
-  Any
+  One,  ///< Exactly one.
+  Any   ///< Any number, none included.
 };
 
 /// One kind of command.
 struct Command
 {
-  std::string_view kind;       ///< The class's name and the name in a storage, "DV_".
-  std::string_view text_name;  ///< The name in the text of a parameter file, "DV".
-  Count count;
+  std::string_view kind;           ///< The class's name and the name in a storage, "DV_".
+  std::string_view text_name;      ///< The name in the text of a parameter file, "DV".
+  Count count;                     ///< How many a job has.
   Rows<Field> fields;              ///< In the order of the class's members.
   std::string_view documentation;  ///< One line.
 };

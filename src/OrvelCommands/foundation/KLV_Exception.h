@@ -69,11 +69,11 @@ public:
   const std::vector<std::string>& GetBacktrace() const noexcept { return m_backtrace; }
 
 protected:
-  KLV_Code m_code;
-  std::string m_log_prefix;
-  std::string m_message;
-  KLV_Exception* m_cause = nullptr;
-  std::vector<std::string> m_backtrace;
+  KLV_Code m_code;                       ///< What GetCode() gives.
+  std::string m_log_prefix;              ///< What GetLogPrefix() gives.
+  std::string m_message;                 ///< What GetMessage() gives; derived classes may add to it.
+  KLV_Exception* m_cause = nullptr;      ///< What GetCause() gives. Ownership: deleted with this object.
+  std::vector<std::string> m_backtrace;  ///< What GetBacktrace() gives.
 };
 
 #ifdef _MSC_VER

@@ -35,7 +35,11 @@ class ORVELCOMMANDS_EXPORT OrvelParfileStorage
 {
 public:
   OrvelParfileStorage();
+
+  /// The interface holds nothing; what a copy shares is told by each storage.
   OrvelParfileStorage(const OrvelParfileStorage&);
+
+  /// The interface holds nothing; what an assignment shares is told by each storage.
   OrvelParfileStorage& operator=(const OrvelParfileStorage&);
   virtual ~OrvelParfileStorage();
 
@@ -61,6 +65,8 @@ public:
 
   /// \name Reading one value
   /// @{
+
+  /// Puts the value at \p index into \p value.
   virtual void GetValue(const std::string& command, const std::string& id_name, const std::string& key,
                         std::uint64_t index, VtmType type, std::vector<double>& value) const = 0;
   virtual void GetValue(const std::string& command, const std::string& id_name, const std::string& key,
@@ -79,6 +85,8 @@ public:
 
   /// \name Overwriting one value of an existing key
   /// @{
+
+  /// Puts \p value in the place of the value at \p index.
   virtual void SetValue(const std::string& command, const std::string& id_name, const std::string& key, int index,
                         VtmType type, const std::vector<double>& value) const = 0;
   virtual void SetValue(const std::string& command, const std::string& id_name, const std::string& key, int index,
@@ -93,8 +101,10 @@ public:
                         VtmType type, const int& value) const = 0;
   /// @}
 
-  /// \name Appending one value to a key, which is made when it is not there
+  /// \name Appending one value
   /// @{
+
+  /// Appends one value to a key, which is made when it is not there.
   virtual void AddValue(const std::string& command, const std::string& id_name, const std::string& key, VtmType type,
                         const std::vector<double>& value) const = 0;
   virtual void AddValue(const std::string& command, const std::string& id_name, const std::string& key, VtmType type,

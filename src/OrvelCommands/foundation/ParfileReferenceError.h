@@ -16,9 +16,15 @@
 class ORVELCOMMANDS_EXPORT ParfileReferenceError
 {
 public:
+  /// \p source and \p target are free texts that name the two commands.
   ParfileReferenceError(std::string source, std::string target);
+
+  /// Copies both texts.
   ParfileReferenceError(const ParfileReferenceError& other);
+
+  /// Takes both texts of the other one.
   ParfileReferenceError& operator=(const ParfileReferenceError& other);
+
   virtual ~ParfileReferenceError();
 
   /// Source, " -> ", target.

@@ -14,6 +14,7 @@ struct XmlvtmIdname
   /// Every field is -1.
   XmlvtmIdname() = default;
 
+  /// One argument for each field, in their order.
   XmlvtmIdname(int command_, int position_, int name_begin_, int name_length_)
     : command(command_), position(position_), name_begin(name_begin_), name_length(name_length_)
   {

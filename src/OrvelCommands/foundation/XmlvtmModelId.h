@@ -14,6 +14,7 @@ struct XmlvtmModelId
   /// Every field is -1.
   XmlvtmModelId() = default;
 
+  /// One argument for each field, in their order.
   XmlvtmModelId(int command_, int item_, int model_id_) : command(command_), item(item_), model_id(model_id_) {}
 
   std::int32_t command = -1;   ///< The row of the command in the table of names.

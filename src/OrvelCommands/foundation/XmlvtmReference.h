@@ -14,6 +14,7 @@ struct XmlvtmReference
   /// Every field is -1.
   XmlvtmReference() = default;
 
+  /// One argument for each field, in their order.
   XmlvtmReference(int source_command_, int source_position_, int item_, int target_command_, int target_position_)
     : source_command(source_command_),
       source_position(source_position_),

@@ -13,8 +13,10 @@ inline constexpr std::array<const char*, 12> VTM_TYPE_NAMES = {
   "vtmInteger",     "vtmDouble",     "vtmEnum",   "vtmString",      "vtmIdName",  "vtmReference",
   "vtmIntegerList", "vtmDoubleList", "vtmSelect", "vtmComplexType", "vtmModelId", "vtmUnknown"};
 
-/// \name Labels of the tables in which the optimization database keeps the values of commands, by type of value
+/// \name Table labels
 /// @{
+
+/// The table in which the optimization database keeps the values of commands of one type.
 inline constexpr const char* XMLVTM_INTEGER_TABLE_LABEL = "xmlvtm_integer_table_label";
 inline constexpr const char* XMLVTM_DOUBLE_TABLE_LABEL = "xmlvtm_double_table_label";
 inline constexpr const char* XMLVTM_CHAR_TABLE_LABEL = "xmlvtm_char_table_label";
@@ -26,8 +28,10 @@ inline constexpr const char* XMLVTM_DOUBLELIST_TABLE_LABEL = "xmlvtm_doublelist_
 inline constexpr const char* XMLVTM_MODELID_TABLE_LABEL = "xmlvtm_modelid_table_label";
 /// @}
 
-/// \name Words by which modules name an access to a table and a selection of all
+/// \name Words for the access to tables
 /// @{
+
+/// The word by which modules name an access to a table or a selection of all.
 inline constexpr const char* XMLVTM_MODIFY = "MODIFY";
 inline constexpr const char* XMLVTM_ALL = "ALL";
 /// @}
@@ -54,6 +58,8 @@ inline constexpr std::array<const char*, 39> CMD_ITEM_NAMES = {
 
 /// \name Texts of the optimization database
 /// @{
+
+/// A name, label, version or file name of the optimization database.
 inline constexpr const char* DB_INDEX_FILE_VARIABLE = "ORVEL_DB_INDEX_FILE";
 inline constexpr const char* DB_VERSION = "VTM_1.5";
 inline constexpr const char* DB_FILE_SIZE_LABEL = "vtm_file_size";

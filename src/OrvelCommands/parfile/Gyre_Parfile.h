@@ -70,15 +70,17 @@ public:
   virtual void ValidateModelIds();
 
   /// \name MODEL_, of which a job has exactly one
-  /// Model that the job works on: the file that holds it and the solver that it belongs to.
   /// @{
+
+  /// Model that the job works on: the file that holds it and the solver that it belongs to.
   const MODEL_& GetMODEL_() const;
   const MODEL_& GetMODEL_(const std::string& id) const;
   /// @}
 
   /// \name ELEMENT_GROUP_
-  /// Recipe for a group of elements: listed numbers and operations with other element groups.
   /// @{
+
+  /// Recipe for a group of elements: listed numbers and operations with other element groups.
   std::vector<ELEMENT_GROUP_*> GetELEMENT_GROUP_() const;
   ELEMENT_GROUP_& GetELEMENT_GROUP_(const std::string& id) const;
   ELEMENT_GROUP_& GetELEMENT_GROUP_(std::uint64_t index) const;
@@ -87,8 +89,9 @@ public:
   /// @}
 
   /// \name FACE_GROUP_
-  /// Recipe for a group of faces: listed numbers and operations with other face groups.
   /// @{
+
+  /// Recipe for a group of faces: listed numbers and operations with other face groups.
   std::vector<FACE_GROUP_*> GetFACE_GROUP_() const;
   FACE_GROUP_& GetFACE_GROUP_(const std::string& id) const;
   FACE_GROUP_& GetFACE_GROUP_(std::uint64_t index) const;
@@ -97,8 +100,9 @@ public:
   /// @}
 
   /// \name NODE_GROUP_
-  /// Recipe for a group of nodes: listed numbers and operations with other node groups.
   /// @{
+
+  /// Recipe for a group of nodes: listed numbers and operations with other node groups.
   std::vector<NODE_GROUP_*> GetNODE_GROUP_() const;
   NODE_GROUP_& GetNODE_GROUP_(const std::string& id) const;
   NODE_GROUP_& GetNODE_GROUP_(std::uint64_t index) const;
@@ -107,8 +111,9 @@ public:
   /// @}
 
   /// \name DV_
-  /// Design variable: the group whose values the optimization changes, its start value and its filters.
   /// @{
+
+  /// Design variable: the group whose values the optimization changes, its start value and its filters.
   std::vector<DV_*> GetDV_() const;
   DV_& GetDV_(const std::string& id) const;
   DV_& GetDV_(std::uint64_t index) const;
@@ -117,8 +122,9 @@ public:
   /// @}
 
   /// \name DRESP_
-  /// Design response: a quantity of the analysis to minimise, to constrain or merely to watch.
   /// @{
+
+  /// Design response: a quantity of the analysis to minimise, to constrain or merely to watch.
   std::vector<DRESP_*> GetDRESP_() const;
   DRESP_& GetDRESP_(const std::string& id) const;
   DRESP_& GetDRESP_(std::uint64_t index) const;
@@ -127,8 +133,9 @@ public:
   /// @}
 
   /// \name OPERATOR_
-  /// Operator: combines design responses and other operators, each with its weight, into one value.
   /// @{
+
+  /// Operator: combines design responses and other operators, each with its weight, into one value.
   std::vector<OPERATOR_*> GetOPERATOR_() const;
   OPERATOR_& GetOPERATOR_(const std::string& id) const;
   OPERATOR_& GetOPERATOR_(std::uint64_t index) const;
@@ -137,15 +144,17 @@ public:
   /// @}
 
   /// \name OBJ_FUNC_, of which a job has exactly one
-  /// Objective of the optimization: the response or operator to minimise, its scaling and its filters.
   /// @{
+
+  /// Objective of the optimization: the response or operator to minimise, its scaling and its filters.
   const OBJ_FUNC_& GetOBJ_FUNC_() const;
   const OBJ_FUNC_& GetOBJ_FUNC_(const std::string& id) const;
   /// @}
 
   /// \name CONSTRAINT_
-  /// Constraint of the optimization: a bound on a response or an operator.
   /// @{
+
+  /// Constraint of the optimization: a bound on a response or an operator.
   std::vector<CONSTRAINT_*> GetCONSTRAINT_() const;
   CONSTRAINT_& GetCONSTRAINT_(const std::string& id) const;
   CONSTRAINT_& GetCONSTRAINT_(std::uint64_t index) const;
@@ -154,8 +163,9 @@ public:
   /// @}
 
   /// \name CS_
-  /// Coordinate system defined in the parameter file: a type, an origin and three axis vectors.
   /// @{
+
+  /// Coordinate system defined in the parameter file: a type, an origin and three axis vectors.
   std::vector<CS_*> GetCS_() const;
   CS_& GetCS_(const std::string& id) const;
   CS_& GetCS_(std::uint64_t index) const;
@@ -164,8 +174,9 @@ public:
   /// @}
 
   /// \name DV_CONSTRAINT_
-  /// Restriction on the design variables, such as a symmetry, a demolding direction or a member size.
   /// @{
+
+  /// Restriction on the design variables, such as a symmetry, a demolding direction or a member size.
   std::vector<DV_CONSTRAINT_*> GetDV_CONSTRAINT_() const;
   DV_CONSTRAINT_& GetDV_CONSTRAINT_(const std::string& id) const;
   DV_CONSTRAINT_& GetDV_CONSTRAINT_(std::uint64_t index) const;
@@ -174,8 +185,9 @@ public:
   /// @}
 
   /// \name MONITOR_
-  /// Monitor: one design response that is watched during the run.
   /// @{
+
+  /// Monitor: one design response that is watched during the run.
   std::vector<MONITOR_*> GetMONITOR_() const;
   MONITOR_& GetMONITOR_(const std::string& id) const;
   MONITOR_& GetMONITOR_(std::uint64_t index) const;
@@ -184,15 +196,17 @@ public:
   /// @}
 
   /// \name ALGO_, of which a job has exactly one
-  /// Optimization task: the strategy of the run and all commands that take part in it.
   /// @{
+
+  /// Optimization task: the strategy of the run and all commands that take part in it.
   const ALGO_& GetALGO_() const;
   const ALGO_& GetALGO_(const std::string& id) const;
   /// @}
 
   /// \name OPT_PARAM_
-  /// General parameters of the optimization.
   /// @{
+
+  /// General parameters of the optimization.
   std::vector<OPT_PARAM_*> GetOPT_PARAM_() const;
   OPT_PARAM_& GetOPT_PARAM_(const std::string& id) const;
   OPT_PARAM_& GetOPT_PARAM_(std::uint64_t index) const;
@@ -201,8 +215,9 @@ public:
   /// @}
 
   /// \name STOP_
-  /// Criteria that end the optimization: limits of iterations and residuals.
   /// @{
+
+  /// Criteria that end the optimization: limits of iterations and residuals.
   std::vector<STOP_*> GetSTOP_() const;
   STOP_& GetSTOP_(const std::string& id) const;
   STOP_& GetSTOP_(std::uint64_t index) const;
@@ -211,8 +226,9 @@ public:
   /// @}
 
   /// \name MESH_SMOOTH_
-  /// Smoothing of the mesh during the run, on a group of faces, nodes or elements.
   /// @{
+
+  /// Smoothing of the mesh during the run, on a group of faces, nodes or elements.
   std::vector<MESH_SMOOTH_*> GetMESH_SMOOTH_() const;
   MESH_SMOOTH_& GetMESH_SMOOTH_(const std::string& id) const;
   MESH_SMOOTH_& GetMESH_SMOOTH_(std::uint64_t index) const;
@@ -221,8 +237,9 @@ public:
   /// @}
 
   /// \name FILTER_
-  /// Filter that design variables or sensitivities pass through, on a group of the model.
   /// @{
+
+  /// Filter that design variables or sensitivities pass through, on a group of the model.
   std::vector<FILTER_*> GetFILTER_() const;
   FILTER_& GetFILTER_(const std::string& id) const;
   FILTER_& GetFILTER_(std::uint64_t index) const;
@@ -231,8 +248,9 @@ public:
   /// @}
 
   /// \name PRE_PARAM_
-  /// Parameters of the pre-processing: fluid, limits of its run, backflow angle and switches for tracks.
   /// @{
+
+  /// Parameters of the pre-processing: fluid, limits of its run, backflow angle and switches for tracks.
   std::vector<PRE_PARAM_*> GetPRE_PARAM_() const;
   PRE_PARAM_& GetPRE_PARAM_(const std::string& id) const;
   PRE_PARAM_& GetPRE_PARAM_(std::uint64_t index) const;
@@ -241,8 +259,9 @@ public:
   /// @}
 
   /// \name AS_TOPO_OC_
-  /// Settings for topology optimization by optimality criteria.
   /// @{
+
+  /// Settings for topology optimization by optimality criteria.
   std::vector<AS_TOPO_OC_*> GetAS_TOPO_OC_() const;
   AS_TOPO_OC_& GetAS_TOPO_OC_(const std::string& id) const;
   AS_TOPO_OC_& GetAS_TOPO_OC_(std::uint64_t index) const;
@@ -251,8 +270,9 @@ public:
   /// @}
 
   /// \name AS_TOPO_SENS_
-  /// Settings for topology optimization by sensitivities: optimizer, move limits, primal and adjoint runs.
   /// @{
+
+  /// Settings for topology optimization by sensitivities: optimizer, move limits, primal and adjoint runs.
   std::vector<AS_TOPO_SENS_*> GetAS_TOPO_SENS_() const;
   AS_TOPO_SENS_& GetAS_TOPO_SENS_(const std::string& id) const;
   AS_TOPO_SENS_& GetAS_TOPO_SENS_(std::uint64_t index) const;
@@ -261,8 +281,9 @@ public:
   /// @}
 
   /// \name AS_SHAPE_SENS_
-  /// Settings for shape optimization by sensitivities: optimizer, move limits, filters and normals.
   /// @{
+
+  /// Settings for shape optimization by sensitivities: optimizer, move limits, filters and normals.
   std::vector<AS_SHAPE_SENS_*> GetAS_SHAPE_SENS_() const;
   AS_SHAPE_SENS_& GetAS_SHAPE_SENS_(const std::string& id) const;
   AS_SHAPE_SENS_& GetAS_SHAPE_SENS_(std::uint64_t index) const;
@@ -271,15 +292,17 @@ public:
   /// @}
 
   /// \name FLOWPATHS_, of which a job has exactly one
-  /// Flow paths of the fluid domain: the groups of faces where the flow enters and leaves.
   /// @{
+
+  /// Flow paths of the fluid domain: the groups of faces where the flow enters and leaves.
   const FLOWPATHS_& GetFLOWPATHS_() const;
   const FLOWPATHS_& GetFLOWPATHS_(const std::string& id) const;
   /// @}
 
   /// \name OUTPUT_
-  /// What the job writes out: file, format, iterations and the kind of data and result.
   /// @{
+
+  /// What the job writes out: file, format, iterations and the kind of data and result.
   std::vector<OUTPUT_*> GetOUTPUT_() const;
   OUTPUT_& GetOUTPUT_(const std::string& id) const;
   OUTPUT_& GetOUTPUT_(std::uint64_t index) const;
@@ -288,8 +311,9 @@ public:
   /// @}
 
   /// \name SCALING_CURVE_
-  /// Scaling curve, to which a restriction on the design variables can refer.
   /// @{
+
+  /// Scaling curve, to which a restriction on the design variables can refer.
   std::vector<SCALING_CURVE_*> GetSCALING_CURVE_() const;
   SCALING_CURVE_& GetSCALING_CURVE_(const std::string& id) const;
   SCALING_CURVE_& GetSCALING_CURVE_(std::uint64_t index) const;
@@ -298,8 +322,9 @@ public:
   /// @}
 
   /// \name SMOOTH_
-  /// Smoothing job: computes a surface from an optimization result, smooths, reduces and writes it.
   /// @{
+
+  /// Smoothing job: computes a surface from an optimization result, smooths, reduces and writes it.
   std::vector<SMOOTH_*> GetSMOOTH_() const;
   SMOOTH_& GetSMOOTH_(const std::string& id) const;
   SMOOTH_& GetSMOOTH_(std::uint64_t index) const;

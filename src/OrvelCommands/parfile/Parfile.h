@@ -10,15 +10,18 @@
 class ORVELCOMMANDS_EXPORT Parfile
 {
 public:
+  /// Binds to \p storage, from which nothing is read.
   explicit Parfile(const OrvelParfileStorage& storage);
 
   /// Binds to the storage of \p other.
   Parfile(const Parfile& other);
+
+  /// Binds to the storage of \p other, which stays bound to it.
   Parfile(Parfile&& other) noexcept;
 
   Parfile& operator=(const Parfile&) = delete;
   virtual ~Parfile();
 
 protected:
-  const OrvelParfileStorage& m_storage;
+  const OrvelParfileStorage& m_storage;  ///< Not owned.
 };

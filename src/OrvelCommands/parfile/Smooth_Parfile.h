@@ -63,8 +63,9 @@ public:
   virtual void ValidateModelIds();
 
   /// \name SMOOTH_
-  /// Smoothing job: computes a surface from an optimization result, smooths, reduces and writes it.
   /// @{
+
+  /// Smoothing job: computes a surface from an optimization result, smooths, reduces and writes it.
   std::vector<SMOOTH_*> GetSMOOTH_() const;
   SMOOTH_& GetSMOOTH_(const std::string& id) const;
   SMOOTH_& GetSMOOTH_(std::uint64_t index) const;

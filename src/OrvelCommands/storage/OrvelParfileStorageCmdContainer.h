@@ -37,9 +37,15 @@
 class ORVELCOMMANDS_EXPORT OrvelParfileStorageCmdContainer : public OrvelParfileStorage
 {
 public:
+  /// Takes the names of all commands that \p container holds now.
   explicit OrvelParfileStorageCmdContainer(const OrvelCmdContainer& container);
+
+  /// Shares the container of \p other.
   OrvelParfileStorageCmdContainer(const OrvelParfileStorageCmdContainer& other);
+
+  /// Shares the container of \p other.
   OrvelParfileStorageCmdContainer& operator=(const OrvelParfileStorageCmdContainer& other);
+
   ~OrvelParfileStorageCmdContainer() override;
 
   /// False, whatever is asked: this storage does not answer by name whether a command exists.
@@ -67,8 +73,10 @@ public:
   void GetValue(const std::string& command, const std::string& id_name, const std::string& key, std::uint64_t index,
                 VtmType type, std::vector<int>& value) const override;
 
-  /// \name Keep the output where there is no value
+  /// \name Reading one value
   /// @{
+
+  /// Keeps the output where there is no value.
   void GetValue(const std::string& command, const std::string& id_name, const std::string& key, std::uint64_t index,
                 VtmType type, std::string& value) const override;
   void GetValue(const std::string& command, const std::string& id_name, const std::string& key, std::uint64_t index,
@@ -81,8 +89,10 @@ public:
   void GetEnumValue(const std::string& command, const std::string& id_name, const std::string& key, std::uint64_t index,
                     VtmType type, int& value) const override;
 
-  /// \name Writing does nothing and reports nothing
+  /// \name Writing
   /// @{
+
+  /// Does nothing and reports nothing.
   void SetValue(const std::string& command, const std::string& id_name, const std::string& key, int index, VtmType type,
                 const std::vector<double>& value) const override;
   void SetValue(const std::string& command, const std::string& id_name, const std::string& key, int index, VtmType type,

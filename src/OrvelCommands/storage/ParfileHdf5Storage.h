@@ -92,12 +92,13 @@ public:
                     std::string& target_id_name) const override;
 
   /// \name Reading one value
+  /// @{
+
   /// A text ends at its first NUL; an element without data gives the empty text. \p type gives the type in memory, and
   /// HDF5 converts from the type in the file. With a type that moves no value nothing is read.
   ///
   /// Throws: "160045060612" for an absent key, "172756040612" for an absent kind or id name, "134746060612" for an
   /// index past the end, for an element that HDF5 cannot convert and for a \p type that \p value cannot take.
-  /// @{
   void GetValue(const std::string& command, const std::string& id_name, const std::string& key, std::uint64_t index,
                 VtmType type, std::vector<double>& value) const override;
   void GetValue(const std::string& command, const std::string& id_name, const std::string& key, std::uint64_t index,
@@ -113,6 +114,8 @@ public:
   /// @}
 
   /// \name Overwriting one value
+  /// @{
+
   /// An index past the end grows the key; the values between are 0 or empty. With a type that moves no value nothing
   /// is written.
   ///
@@ -121,7 +124,6 @@ public:
   ///
   /// \warning Index 0 removes all values of the key and then fails in the writing. A negative index fails in the
   /// writing too and leaves a key that HDF5 cannot open again.
-  /// @{
   void SetValue(const std::string& command, const std::string& id_name, const std::string& key, int index, VtmType type,
                 const std::vector<double>& value) const override;
   void SetValue(const std::string& command, const std::string& id_name, const std::string& key, int index, VtmType type,
@@ -137,13 +139,14 @@ public:
   /// @}
 
   /// \name Appending one value
+  /// @{
+
   /// The first value of a key settles its type in the file. With a type that moves no value nothing is written, also
   /// for an id name that does not exist.
   ///
   /// Throws: "172758040612" for an absent kind or id name and where the key cannot be made, "172740040612" where the
   /// element cannot be written, the key having grown by one element, and for a \p type that \p value cannot be stored
   /// as, the key being as it was.
-  /// @{
   void AddValue(const std::string& command, const std::string& id_name, const std::string& key, VtmType type,
                 const std::vector<double>& value) const override;
   void AddValue(const std::string& command, const std::string& id_name, const std::string& key, VtmType type,

@@ -10,7 +10,12 @@ class ORVELBASEOBJECTS_EXPORT KLV_Object
 {
 public:
   KLV_Object() = default;
+
+  /// There is nothing to copy.
   KLV_Object(const KLV_Object&) = default;
+
+  /// There is nothing to take over.
   KLV_Object& operator=(const KLV_Object&) = default;
+
   virtual ~KLV_Object();
 };

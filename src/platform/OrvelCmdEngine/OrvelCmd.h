@@ -49,8 +49,9 @@ public:
   const ItemList& Items(OrvelCmdItemDefs::CmdItem item) const;
 
   /// \name Adding an item behind those of its kind
-  /// Throws: OrvelCmdItemError "CmdItem 39 is no kind of item." or the like for a number that is no kind.
   /// @{
+
+  /// Throws: OrvelCmdItemError "CmdItem 39 is no kind of item." or the like for a number that is no kind.
   void AddStringItem(OrvelCmdItemDefs::CmdItem item, const std::string& value);
   void AddIntegerItem(OrvelCmdItemDefs::CmdItem item, int value);
   void AddDoubleItem(OrvelCmdItemDefs::CmdItem item, double value);

@@ -23,6 +23,8 @@ class ORVELCMDENGINE_EXPORT OrvelCmdContainer
 public:
   /// The commands of one kind; an entry may be null.
   using CmdList = std::vector<std::unique_ptr<OrvelCmd>>;
+
+  /// Walks the entries of one kind.
   using const_iterator = CmdList::const_iterator;
 
   OrvelCmdContainer();
@@ -50,8 +52,9 @@ public:
   bool HasCommand(OrvelCmdDefs::Cmd kind) const;
 
   /// \name The entries of a kind
-  /// Adding a command of the kind ends the iterators.
   /// @{
+
+  /// Adding a command of the kind ends the iterators.
   const_iterator GetCommandBegin(OrvelCmdDefs::Cmd kind) const;
   const_iterator GetCommandEnd(OrvelCmdDefs::Cmd kind) const;
   /// @}

@@ -86,6 +86,7 @@ public:
   ValueType GetValueType() const noexcept;
 
 protected:
+  /// For the classes that hold the values.
   OrvelCmdItem(OrvelCmdItemDefs::CmdItem item, ValueType type) noexcept;
 
   /// Throws: OrvelCmdItemError, always, for a reader of `wanted`.

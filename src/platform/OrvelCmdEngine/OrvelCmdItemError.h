@@ -13,7 +13,12 @@ class ORVELCMDENGINE_EXPORT OrvelCmdItemError : public std::runtime_error
 {
 public:
   using std::runtime_error::runtime_error;
+
+  /// Copies the text.
   OrvelCmdItemError(const OrvelCmdItemError& other) = default;
+
+  /// Takes the text of the other one.
   OrvelCmdItemError& operator=(const OrvelCmdItemError& other) = default;
+
   ~OrvelCmdItemError() override;
 };

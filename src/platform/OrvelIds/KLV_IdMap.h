@@ -13,9 +13,15 @@
 class ORVELIDS_EXPORT KLV_IdMap
 {
 public:
+  /// No ids.
   KLV_IdMap() = default;
+
+  /// Copies the ids and the counts of their look-ups.
   KLV_IdMap(const KLV_IdMap& other) = default;
+
+  /// Takes the ids and the counts of their look-ups of the other map.
   KLV_IdMap& operator=(const KLV_IdMap& other) = default;
+
   virtual ~KLV_IdMap();
 
   /// Returns: whether `id` has been added. Counts nothing.

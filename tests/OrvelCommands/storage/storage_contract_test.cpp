@@ -1,3 +1,4 @@
+#include "map_storage/MapStorage.h"
 #include "OrvelCommands/commands/gyre_commands.h"
 #include "OrvelCommands/storage/OrvelParfileStorageCmdContainer.h"
 #include "OrvelCommands/storage/ParfileHdf5Storage.h"
@@ -81,6 +82,48 @@ private:
   std::unique_ptr<OrvelParfileStorage> m_storage;
 };
 
+// What a storage that can be written is filled with.
+
+void AddResponses(const OrvelParfileStorage& storage)
+{
+  storage.AddCommand("DRESP_", "alpha");
+  storage.AddValue("DRESP_", "alpha", "TYPE_", vtmEnum, 1001);
+  for (const std::string& text : Texts())
+  {
+    storage.AddValue("DRESP_", "alpha", "UPDATE_ID_", vtmString, text);
+  }
+  for (const int number : {7, -8, 2147483647})
+  {
+    storage.AddValue("DRESP_", "alpha", "LOADCASE_", vtmInteger, number);
+  }
+  storage.AddCommand("DRESP_", "beta");
+  storage.AddValue("DRESP_", "beta", "TYPE_", vtmEnum, 146);
+  for (const std::vector<int>& list : {std::vector<int>{-2, 5, 9}, std::vector<int>{}, std::vector<int>{1}})
+  {
+    storage.AddValue("DRESP_", "beta", "FILE_", vtmIntegerList, list);
+  }
+}
+
+void AddOperator(const OrvelParfileStorage& storage)
+{
+  storage.AddCommand("OPERATOR_", "alpha");
+  storage.AddValue("OPERATOR_", "alpha", "TYPE_", vtmEnum, 87);
+  for (const auto& [operand, weight] : {std::pair{"alpha", 1.5}, {"beta", -0.25}, {"alpha", 1e300}})
+  {
+    storage.AddReference("OPERATOR_", "alpha", "DRESP_", "DRESP_", operand);
+    storage.AddValue("OPERATOR_", "alpha", "DRESP_WEIGHT_", vtmDouble, weight);
+  }
+}
+
+void FillThroughItsWriteHalf(const OrvelParfileStorage& storage)
+{
+  AddResponses(storage);
+  AddOperator(storage);
+  storage.AddCommand("MODEL_", "duct");
+  storage.AddValue("MODEL_", "duct", "FILE_", vtmString, std::string("duct.cgns"));
+  storage.AddCommand("STOP_", "end");
+}
+
 class StoredBackend
 {
 public:
@@ -88,50 +131,27 @@ public:
   {
     plain_hdf5::MakeEmptyFile();
     m_storage = std::make_unique<ParfileHdf5Storage>(true);
-    AddResponses();
-    AddOperator();
-    m_storage->AddCommand("MODEL_", "duct");
-    m_storage->AddValue("MODEL_", "duct", "FILE_", vtmString, std::string("duct.cgns"));
-    m_storage->AddCommand("STOP_", "end");
+    FillThroughItsWriteHalf(*m_storage);
   }
 
   OrvelParfileStorage& Storage() { return *m_storage; }
 
 private:
-  void AddResponses()
-  {
-    m_storage->AddCommand("DRESP_", "alpha");
-    m_storage->AddValue("DRESP_", "alpha", "TYPE_", vtmEnum, 1001);
-    for (const std::string& text : Texts())
-    {
-      m_storage->AddValue("DRESP_", "alpha", "UPDATE_ID_", vtmString, text);
-    }
-    for (const int number : {7, -8, 2147483647})
-    {
-      m_storage->AddValue("DRESP_", "alpha", "LOADCASE_", vtmInteger, number);
-    }
-    m_storage->AddCommand("DRESP_", "beta");
-    m_storage->AddValue("DRESP_", "beta", "TYPE_", vtmEnum, 146);
-    for (const std::vector<int>& list : {std::vector<int>{-2, 5, 9}, std::vector<int>{}, std::vector<int>{1}})
-    {
-      m_storage->AddValue("DRESP_", "beta", "FILE_", vtmIntegerList, list);
-    }
-  }
-
-  void AddOperator()
-  {
-    m_storage->AddCommand("OPERATOR_", "alpha");
-    m_storage->AddValue("OPERATOR_", "alpha", "TYPE_", vtmEnum, 87);
-    for (const auto& [operand, weight] : {std::pair{"alpha", 1.5}, {"beta", -0.25}, {"alpha", 1e300}})
-    {
-      m_storage->AddReference("OPERATOR_", "alpha", "DRESP_", "DRESP_", operand);
-      m_storage->AddValue("OPERATOR_", "alpha", "DRESP_WEIGHT_", vtmDouble, weight);
-    }
-  }
-
   TemporaryFolder m_folder;
   plain_hdf5::QuietErrors m_quiet;
   std::unique_ptr<OrvelParfileStorage> m_storage;
+};
+
+// The storage of examples/map_storage, which a reader writes after.
+class MapBackend
+{
+public:
+  MapBackend() { FillThroughItsWriteHalf(m_storage); }
+
+  OrvelParfileStorage& Storage() { return m_storage; }
+
+private:
+  MapStorage m_storage;
 };
 
 template <class Backend>
@@ -150,11 +170,15 @@ struct BackendNames
   template <class Backend>
   static std::string GetName(int)
   {
-    return std::is_same_v<Backend, ParsedBackend> ? "ParsedCommands" : "Hdf5File";
+    if (std::is_same_v<Backend, ParsedBackend>)
+    {
+      return "ParsedCommands";
+    }
+    return std::is_same_v<Backend, StoredBackend> ? "Hdf5File" : "Map";
   }
 };
 
-using Backends = testing::Types<ParsedBackend, StoredBackend>;
+using Backends = testing::Types<ParsedBackend, StoredBackend, MapBackend>;
 TYPED_TEST_SUITE(StorageContract, Backends, BackendNames);
 
 auto AbsentValueFailure()
@@ -208,7 +232,7 @@ std::vector<std::uint64_t> CountsIn(const OrvelParfileStorage& storage)
 
 }  // namespace
 
-// What both storages promise.
+// What all storages promise.
 
 TYPED_TEST(StorageContract, CountsTheCommandsOfAKind)
 {
@@ -382,7 +406,7 @@ TYPED_TEST(StorageContract, LoadsACommandClass)
   EXPECT_FALSE(model.HasSOLVER_());
 }
 
-// What differs: whether a command exists.
+// What differs between the two storages of the library: whether a command exists.
 
 TEST(StorageDifferences, ParsedCommandsNeverTellThatACommandExists)
 {

@@ -142,8 +142,11 @@ def write_key(command, key, sort, values):
 
 
 def write_texts(dataset, values):
-    """Writes texts with their terminating NUL. h5py itself would pad characters, which HDF5 then turns into NULs."""
-    buffers = [ctypes.create_string_buffer(value.encode()) for value in values]
+    """Writes texts with their terminating NUL. h5py itself would pad characters, which HDF5 then turns into NULs.
+
+    A byte that is no UTF-8 is told as Python does it, 0xf6 as "\\udcf6".
+    """
+    buffers = [ctypes.create_string_buffer(value.encode(errors="surrogateescape")) for value in values]
     sequences = [(len(buffer), ctypes.addressof(buffer)) for buffer in buffers]
     memory = numpy.array(sequences, dtype=[("length", "u8"), ("data", "u8")])
     dataset.write(h5s.ALL, h5s.ALL, memory, mtype=TYPES["text"])

@@ -3,7 +3,7 @@
 #include "job/job_kind.h"
 #include "job/new_parameter_file.h"
 #include "job/parameter_file.h"
-#include "support/toml_input.h"
+#include "support/printable.h"
 
 #include "OrvelCommands/foundation/KLV_Failure.h"
 #include "OrvelDbFactory/OrvelDbInstance.h"

@@ -1,7 +1,7 @@
 #include "report.h"
 
 #include "OrvelCommands/commands/command_schema.h"
-#include "support/toml_input.h"
+#include "support/printable.h"
 
 #include <nlohmann/json.hpp>
 

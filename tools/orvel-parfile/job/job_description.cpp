@@ -2,6 +2,7 @@
 
 #include "support/exit_code.h"
 #include "support/nearest_name.h"
+#include "support/printable.h"
 #include "support/schema_names.h"
 #include "support/toml_input.h"
 
@@ -9,6 +10,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <cstring>
 #include <optional>
 #include <set>
 
@@ -61,21 +63,31 @@ std::optional<std::string> AsText(const toml::node& node)
   return text && text->find('\0') == std::string::npos ? text : std::nullopt;
 }
 
-// Bytes as pairs of hexadecimal digits.
-std::optional<std::string> AsBytes(const toml::node& node)
+bool AreHexDigits(const std::string& text, std::size_t group)
 {
-  const auto digits = node.value_exact<std::string>();
-  const auto is_digit = [](unsigned char character) { return std::isxdigit(character) != 0; };
-  if (!digits || digits->size() % 2 != 0 || !std::all_of(digits->begin(), digits->end(), is_digit))
-  {
-    return std::nullopt;
-  }
+  return text.size() % group == 0 &&
+         std::all_of(text.begin(), text.end(), [](unsigned char character) { return std::isxdigit(character) != 0; });
+}
+
+std::optional<std::string> BytesOfHex(const std::string& digits)
+{
   std::string bytes;
-  for (std::size_t start = 0; start < digits->size(); start += 2)
+  for (std::size_t start = 0; start < digits.size(); start += 2)
   {
-    bytes += static_cast<char>(std::stoi(digits->substr(start, 2), nullptr, 16));
+    bytes += static_cast<char>(std::stoul(digits.substr(start, 2), nullptr, 16));
   }
   return bytes.find('\0') == std::string::npos ? std::optional<std::string>(bytes) : std::nullopt;
+}
+
+std::vector<double> NumbersOfHex(const std::string& digits)
+{
+  std::vector<double> numbers;
+  for (std::size_t start = 0; start < digits.size(); start += kHexDigitsOfNumber)
+  {
+    const std::uint64_t bits = std::stoull(digits.substr(start, kHexDigitsOfNumber), nullptr, 16);
+    std::memcpy(&numbers.emplace_back(), &bits, sizeof bits);
+  }
+  return numbers;
 }
 
 // Most enumerations have the codes of letters as their numbers.
@@ -181,6 +193,30 @@ std::optional<JobValue> ReadValue(const toml::node& node, const schema::Field& f
     case vtmReference: return AsJobValue(AsTarget(node, field.target));
     default: return ReadValue(node, StoredTypeOf(field.type));
   }
+}
+
+bool HasHexForm(const StoredType& type)
+{
+  return type.shape == ValueShape::Text || type.shape == ValueShape::Number || type.shape == ValueShape::NumberList;
+}
+
+std::optional<JobValue> ReadHexValue(const toml::node& node, const StoredType& type)
+{
+  const auto digits = node.value_exact<std::string>();
+  if (!digits || !AreHexDigits(*digits, type.shape == ValueShape::Text ? 2 : kHexDigitsOfNumber))
+  {
+    return std::nullopt;
+  }
+  if (type.shape == ValueShape::Text)
+  {
+    return AsJobValue(BytesOfHex(*digits));
+  }
+  std::vector<double> numbers = NumbersOfHex(*digits);
+  if (type.shape == ValueShape::NumberList)
+  {
+    return JobValue(std::move(numbers));
+  }
+  return numbers.size() == 1 ? std::optional<JobValue>(numbers.front()) : std::nullopt;
 }
 
 class JobReader
@@ -347,7 +383,7 @@ private:
             NearestName(name, StoredTypeNames()), name);
       return;
     }
-    const bool in_hex = type->shape == ValueShape::Text && table.contains(kHexMember);
+    const bool in_hex = HasHexForm(*type) && table.contains(kHexMember);
     const toml::array* values = table[in_hex ? kHexMember : kValuesMember].as_array();
     if (!IsName(subject.key))
     {
@@ -362,7 +398,7 @@ private:
     JobKey key{subject.key, type, {}, PlaceOf(table), {}};
     for (const toml::node& node : *values)
     {
-      if (auto value = in_hex ? AsJobValue(AsBytes(node)) : ReadValue(node, *type))
+      if (auto value = in_hex ? ReadHexValue(node, *type) : ReadValue(node, *type))
       {
         key.items.push_back({std::move(*value), PlaceOf(node)});
       }

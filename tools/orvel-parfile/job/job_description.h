@@ -36,5 +36,8 @@ inline constexpr const char* kExtraKinds = "extra_kinds";
 /// @{
 inline constexpr const char* kTypeMember = "type";
 inline constexpr const char* kValuesMember = "values";
-inline constexpr const char* kHexMember = "hex";  ///< Texts that are no UTF-8, byte by byte.
+/// In place of the values: texts that are no UTF-8, byte by byte; numbers by the 16 digits of their bits, lists of
+/// numbers without anything between. It carries what a number in text cannot, the payload of a NaN.
+inline constexpr const char* kHexMember = "hex";
+inline constexpr int kHexDigitsOfNumber = 16;
 /// @}

@@ -1,13 +1,16 @@
 #include "job_text.h"
 
 #include "job_description.h"
+#include "support/printable.h"
 
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
 #include <cctype>
 #include <cmath>
+#include <cstring>
 #include <iomanip>
+#include <limits>
 #include <set>
 #include <sstream>
 
@@ -19,16 +22,66 @@ namespace
 
 constexpr std::size_t kLineWidth = 100;
 
-bool IsUtf8(const std::string& text)
+// The bits of the NaN that a text can name.
+bool IsNamedNumber(double value)
 {
-  try
+  const double named = std::numeric_limits<double>::quiet_NaN();
+  return !std::isnan(value) || std::memcmp(&value, &named, sizeof value) == 0;
+}
+
+// Whether a text tells all of a value.
+struct IsTold
+{
+  bool operator()(double value) const { return IsNamedNumber(value); }
+  bool operator()(const std::vector<double>& values) const
   {
-    return !Json(text).dump().empty();
+    return std::all_of(values.begin(), values.end(), IsNamedNumber);
   }
-  catch (const Json::type_error&)
+  bool operator()(const std::string& text) const { return IsUtf8(text); }
+  template <class Value>
+  bool operator()(const Value&) const
   {
-    return false;
+    return true;
   }
+};
+
+std::string HexText(std::uint64_t bits, int digits)
+{
+  std::ostringstream text;
+  text << std::hex << std::setfill('0') << std::setw(digits) << bits;
+  return text.str();
+}
+
+struct HexJson
+{
+  std::string operator()(double value) const
+  {
+    std::uint64_t bits = 0;
+    std::memcpy(&bits, &value, sizeof bits);
+    return HexText(bits, kHexDigitsOfNumber);
+  }
+  std::string operator()(const std::vector<double>& values) const
+  {
+    std::string text;
+    std::for_each(values.begin(), values.end(), [&](double value) { text += (*this)(value); });
+    return text;
+  }
+  std::string operator()(const std::string& bytes) const
+  {
+    std::string text;
+    std::for_each(bytes.begin(), bytes.end(), [&](unsigned char byte) { text += HexText(byte, 2); });
+    return text;
+  }
+  template <class Value>
+  std::string operator()(const Value&) const
+  {
+    return {};
+  }
+};
+
+bool IsToldByText(const JobItem& item)
+{
+  return std::visit(IsTold{}, item.value);
 }
 
 bool IsEnumerator(const schema::Field& field, std::int64_t value)
@@ -43,12 +96,8 @@ bool IsPlainValue(const JobValue& value, const schema::Field& field)
   {
     return field.enumerators.empty() || IsEnumerator(field, *number);
   }
-  if (const auto* target = std::get_if<JobReference>(&value))
-  {
-    return target->kind == field.target;
-  }
-  const auto* text = std::get_if<std::string>(&value);
-  return text == nullptr || IsUtf8(*text);
+  const auto* target = std::get_if<JobReference>(&value);
+  return target == nullptr || target->kind == field.target;
 }
 
 // Whether a key stands as a command reads it, so that its type need not be told.
@@ -60,7 +109,7 @@ bool IsPlain(const JobKey& key, const schema::Field* field)
     return false;
   }
   return std::all_of(key.items.begin(), key.items.end(),
-                     [field](const JobItem& item) { return IsPlainValue(item.value, *field); });
+                     [field](const JobItem& item) { return IsPlainValue(item.value, *field) && IsToldByText(item); });
 }
 
 struct PlainJson
@@ -92,31 +141,13 @@ struct TypedJson
   }
 };
 
-std::string HexText(const std::string& text)
-{
-  std::ostringstream digits;
-  digits << std::hex << std::setfill('0');
-  for (const char character : text)
-  {
-    digits << std::setw(2) << static_cast<unsigned>(static_cast<unsigned char>(character));
-  }
-  return digits.str();
-}
-
-bool NeedsHex(const JobKey& key)
-{
-  return key.type->shape == ValueShape::Text &&
-         std::any_of(key.items.begin(), key.items.end(),
-                     [](const JobItem& item) { return !IsUtf8(std::get<std::string>(item.value)); });
-}
-
 Json TypedKey(const JobKey& key)
 {
-  const bool in_hex = NeedsHex(key);
+  const bool in_hex = !std::all_of(key.items.begin(), key.items.end(), IsToldByText);
   Json values = Json::array();
   for (const JobItem& item : key.items)
   {
-    values.push_back(in_hex ? Json(HexText(std::get<std::string>(item.value))) : std::visit(TypedJson{}, item.value));
+    values.push_back(in_hex ? Json(std::visit(HexJson{}, item.value)) : std::visit(TypedJson{}, item.value));
   }
   return {{kTypeMember, key.type->name}, {in_hex ? kHexMember : kValuesMember, values}};
 }
@@ -290,6 +321,11 @@ void NameNonFinite(Json& node)
   }
 }
 
+bool Contains(const std::vector<std::string>& names, std::string_view name)
+{
+  return std::find(names.begin(), names.end(), name) != names.end();
+}
+
 void NoteName(const std::string& name, const std::string& what, std::vector<std::string>& notes)
 {
   if (!IsUtf8(name))
@@ -303,6 +339,10 @@ void NoteName(const std::string& name, const std::string& what, std::vector<std:
 std::vector<std::string> NotCarried(const Job& job)
 {
   std::vector<std::string> notes;
+  if (JobIndex(job).Ids(kExtraKinds).size() > 0 || Contains(job.empty_kinds, kExtraKinds))
+  {
+    notes.push_back(std::string("the kind ") + kExtraKinds + " has the name of another thing in a job description");
+  }
   for (const ForeignObject& object : job.foreign_objects)
   {
     notes.push_back(object.path + " is " + object.what);

@@ -2,6 +2,7 @@
 
 #include "support/exit_code.h"
 #include "support/nearest_name.h"
+#include "support/printable.h"
 #include "support/schema_names.h"
 #include "support/toml_input.h"
 

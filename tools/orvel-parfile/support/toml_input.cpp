@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <fstream>
-#include <iomanip>
 #include <sstream>
 
 toml::table ReadToml(const std::filesystem::path& path)
@@ -49,22 +48,4 @@ std::vector<std::pair<std::string, const toml::node*>> InTextOrder(const toml::t
     return one.second->source().begin < other.second->source().begin;
   });
   return members;
-}
-
-std::string Printable(const std::string& text)
-{
-  std::ostringstream printable;
-  for (const char character : text)
-  {
-    const auto code = static_cast<unsigned char>(character);
-    if (character != '\n' && (code < 0x20 || code == 0x7f))
-    {
-      printable << "\\u" << std::hex << std::setw(4) << std::setfill('0') << static_cast<unsigned>(code);
-    }
-    else
-    {
-      printable << character;
-    }
-  }
-  return printable.str();
 }

@@ -21,6 +21,3 @@ std::string NodeText(const toml::node& node);
 /// The members of a table in the order of the text, in which people expect faults and files. A table itself keeps its
 /// members by name.
 std::vector<std::pair<std::string, const toml::node*>> InTextOrder(const toml::table& table);
-
-/// A text with its control characters, but for line feeds, written as "\u0000" is.
-std::string Printable(const std::string& text);

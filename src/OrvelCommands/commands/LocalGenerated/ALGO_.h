@@ -66,7 +66,10 @@ public:
 
   /// References are copied as pointers: the copy refers to the same commands.
   ALGO_(const ALGO_& other) = default;
+
+  /// References are taken as pointers too.
   ALGO_& operator=(const ALGO_& other) = default;
+
   ~ALGO_() override = default;
 
   /// Reads all keys but the references from the storage. Nothing is cleared first and no value is tested.
@@ -86,8 +89,10 @@ public:
   const std::string& GetType() const override;
   const std::string& GetID_NAME_() const override { return m_ID_NAME_; }
 
-  /// \name The text of an enumerator, "INVALID" for any other number
+  /// \name Names of enumerators
   /// @{
+
+  /// The text of an enumerator, "INVALID" for any other number.
   static std::string GetEnumName(Enum_STRATEGY_ value);
   static std::string GetEnumName(Enum_DEVELOPER_OUTPUT_ value);
   /// @}

@@ -85,7 +85,10 @@ public:
 
   /// References are copied as pointers: the copy refers to the same commands.
   DRESP_(const DRESP_& other) = default;
+
+  /// References are taken as pointers too.
   DRESP_& operator=(const DRESP_& other) = default;
+
   ~DRESP_() override = default;
 
   /// Reads all keys but the references from the storage. Nothing is cleared first and no value is tested.
@@ -105,8 +108,10 @@ public:
   const std::string& GetType() const override;
   const std::string& GetID_NAME_() const override { return m_ID_NAME_; }
 
-  /// \name The text of an enumerator, "INVALID" for any other number
+  /// \name Names of enumerators
   /// @{
+
+  /// The text of an enumerator, "INVALID" for any other number.
   static std::string GetEnumName(Enum_TYPE_ value);
   static std::string GetEnumName(Enum_UPDATE_TYPE_ value);
   /// @}

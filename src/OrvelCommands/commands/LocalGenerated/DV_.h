@@ -49,7 +49,10 @@ public:
 
   /// References are copied as pointers: the copy refers to the same commands.
   DV_(const DV_& other) = default;
+
+  /// References are taken as pointers too.
   DV_& operator=(const DV_& other) = default;
+
   ~DV_() override = default;
 
   /// Reads all keys but the references from the storage. Nothing is cleared first and no value is tested.
@@ -69,8 +72,10 @@ public:
   const std::string& GetType() const override;
   const std::string& GetID_NAME_() const override { return m_ID_NAME_; }
 
-  /// \name The text of an enumerator, "INVALID" for any other number
+  /// \name Names of enumerators
   /// @{
+
+  /// The text of an enumerator, "INVALID" for any other number.
   static std::string GetEnumName(Enum_TYPE_ value);
   /// @}
 

@@ -145,7 +145,10 @@ public:
 
   /// References are copied as pointers: the copy refers to the same commands.
   DV_CONSTRAINT_(const DV_CONSTRAINT_& other) = default;
+
+  /// References are taken as pointers too.
   DV_CONSTRAINT_& operator=(const DV_CONSTRAINT_& other) = default;
+
   ~DV_CONSTRAINT_() override = default;
 
   /// Reads all keys but the references from the storage. Nothing is cleared first and no value is tested.
@@ -165,8 +168,10 @@ public:
   const std::string& GetType() const override;
   const std::string& GetID_NAME_() const override { return m_ID_NAME_; }
 
-  /// \name The text of an enumerator, "INVALID" for any other number
+  /// \name Names of enumerators
   /// @{
+
+  /// The text of an enumerator, "INVALID" for any other number.
   static std::string GetEnumName(Enum_DVC_TYPE_ value);
   static std::string GetEnumName(Enum_FEASIBLE_START_ value);
   static std::string GetEnumName(Enum_SAVE_ value);

@@ -38,7 +38,10 @@ public:
 
   /// References are copied as pointers: the copy refers to the same commands.
   ELEMENT_GROUP_(const ELEMENT_GROUP_& other) = default;
+
+  /// References are taken as pointers too.
   ELEMENT_GROUP_& operator=(const ELEMENT_GROUP_& other) = default;
+
   ~ELEMENT_GROUP_() override = default;
 
   /// Reads all keys but the references from the storage. Nothing is cleared first and no value is tested.

@@ -38,7 +38,10 @@ public:
 
   /// References are copied as pointers: the copy refers to the same commands.
   FACE_GROUP_(const FACE_GROUP_& other) = default;
+
+  /// References are taken as pointers too.
   FACE_GROUP_& operator=(const FACE_GROUP_& other) = default;
+
   ~FACE_GROUP_() override = default;
 
   /// Reads all keys but the references from the storage. Nothing is cleared first and no value is tested.

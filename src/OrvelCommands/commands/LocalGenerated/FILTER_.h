@@ -54,7 +54,10 @@ public:
 
   /// References are copied as pointers: the copy refers to the same commands.
   FILTER_(const FILTER_& other) = default;
+
+  /// References are taken as pointers too.
   FILTER_& operator=(const FILTER_& other) = default;
+
   ~FILTER_() override = default;
 
   /// Reads all keys but the references from the storage. Nothing is cleared first and no value is tested.
@@ -74,8 +77,10 @@ public:
   const std::string& GetType() const override;
   const std::string& GetID_NAME_() const override { return m_ID_NAME_; }
 
-  /// \name The text of an enumerator, "INVALID" for any other number
+  /// \name Names of enumerators
   /// @{
+
+  /// The text of an enumerator, "INVALID" for any other number.
   static std::string GetEnumName(Enum_METHOD_ value);
   /// @}
 

@@ -38,7 +38,10 @@ public:
 
   /// References are copied as pointers: the copy refers to the same commands.
   FLOWPATHS_(const FLOWPATHS_& other) = default;
+
+  /// References are taken as pointers too.
   FLOWPATHS_& operator=(const FLOWPATHS_& other) = default;
+
   ~FLOWPATHS_() override = default;
 
   /// Reads all keys but the references from the storage. Nothing is cleared first and no value is tested.

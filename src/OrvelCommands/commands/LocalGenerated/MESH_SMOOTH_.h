@@ -53,7 +53,10 @@ public:
 
   /// References are copied as pointers: the copy refers to the same commands.
   MESH_SMOOTH_(const MESH_SMOOTH_& other) = default;
+
+  /// References are taken as pointers too.
   MESH_SMOOTH_& operator=(const MESH_SMOOTH_& other) = default;
+
   ~MESH_SMOOTH_() override = default;
 
   /// Reads all keys but the references from the storage. Nothing is cleared first and no value is tested.
@@ -73,8 +76,10 @@ public:
   const std::string& GetType() const override;
   const std::string& GetID_NAME_() const override { return m_ID_NAME_; }
 
-  /// \name The text of an enumerator, "INVALID" for any other number
+  /// \name Names of enumerators
   /// @{
+
+  /// The text of an enumerator, "INVALID" for any other number.
   static std::string GetEnumName(Enum_METHOD_ value);
   /// @}
 

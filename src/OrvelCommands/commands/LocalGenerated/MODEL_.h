@@ -38,7 +38,10 @@ public:
 
   /// References are copied as pointers: the copy refers to the same commands.
   MODEL_(const MODEL_& other) = default;
+
+  /// References are taken as pointers too.
   MODEL_& operator=(const MODEL_& other) = default;
+
   ~MODEL_() override = default;
 
   /// Reads all keys but the references from the storage. Nothing is cleared first and no value is tested.

@@ -39,7 +39,10 @@ public:
 
   /// References are copied as pointers: the copy refers to the same commands.
   MONITOR_(const MONITOR_& other) = default;
+
+  /// References are taken as pointers too.
   MONITOR_& operator=(const MONITOR_& other) = default;
+
   ~MONITOR_() override = default;
 
   /// Reads all keys but the references from the storage. Nothing is cleared first and no value is tested.

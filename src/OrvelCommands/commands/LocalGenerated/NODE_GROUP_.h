@@ -38,7 +38,10 @@ public:
 
   /// References are copied as pointers: the copy refers to the same commands.
   NODE_GROUP_(const NODE_GROUP_& other) = default;
+
+  /// References are taken as pointers too.
   NODE_GROUP_& operator=(const NODE_GROUP_& other) = default;
+
   ~NODE_GROUP_() override = default;
 
   /// Reads all keys but the references from the storage. Nothing is cleared first and no value is tested.

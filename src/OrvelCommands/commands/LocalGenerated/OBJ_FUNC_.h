@@ -55,7 +55,10 @@ public:
 
   /// References are copied as pointers: the copy refers to the same commands.
   OBJ_FUNC_(const OBJ_FUNC_& other) = default;
+
+  /// References are taken as pointers too.
   OBJ_FUNC_& operator=(const OBJ_FUNC_& other) = default;
+
   ~OBJ_FUNC_() override = default;
 
   /// Reads all keys but the references from the storage. Nothing is cleared first and no value is tested.
@@ -75,8 +78,10 @@ public:
   const std::string& GetType() const override;
   const std::string& GetID_NAME_() const override { return m_ID_NAME_; }
 
-  /// \name The text of an enumerator, "INVALID" for any other number
+  /// \name Names of enumerators
   /// @{
+
+  /// The text of an enumerator, "INVALID" for any other number.
   static std::string GetEnumName(Enum_TARGET_ value);
   static std::string GetEnumName(Enum_SENSSCALING_TYPE_ value);
   /// @}

@@ -38,7 +38,10 @@ public:
 
   /// References are copied as pointers: the copy refers to the same commands.
   OPT_PARAM_(const OPT_PARAM_& other) = default;
+
+  /// References are taken as pointers too.
   OPT_PARAM_& operator=(const OPT_PARAM_& other) = default;
+
   ~OPT_PARAM_() override = default;
 
   /// Reads all keys but the references from the storage. Nothing is cleared first and no value is tested.

@@ -100,7 +100,10 @@ public:
 
   /// References are copied as pointers: the copy refers to the same commands.
   OUTPUT_(const OUTPUT_& other) = default;
+
+  /// References are taken as pointers too.
   OUTPUT_& operator=(const OUTPUT_& other) = default;
+
   ~OUTPUT_() override = default;
 
   /// Reads all keys but the references from the storage. Nothing is cleared first and no value is tested.
@@ -120,8 +123,10 @@ public:
   const std::string& GetType() const override;
   const std::string& GetID_NAME_() const override { return m_ID_NAME_; }
 
-  /// \name The text of an enumerator, "INVALID" for any other number
+  /// \name Names of enumerators
   /// @{
+
+  /// The text of an enumerator, "INVALID" for any other number.
   static std::string GetEnumName(Enum_FORMAT_ value);
   static std::string GetEnumName(Enum_TYPE_ value);
   static std::string GetEnumName(Enum_RESULT_ value);

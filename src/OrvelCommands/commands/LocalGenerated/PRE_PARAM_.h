@@ -73,7 +73,10 @@ public:
 
   /// References are copied as pointers: the copy refers to the same commands.
   PRE_PARAM_(const PRE_PARAM_& other) = default;
+
+  /// References are taken as pointers too.
   PRE_PARAM_& operator=(const PRE_PARAM_& other) = default;
+
   ~PRE_PARAM_() override = default;
 
   /// Reads all keys but the references from the storage. Nothing is cleared first and no value is tested.
@@ -93,8 +96,10 @@ public:
   const std::string& GetType() const override;
   const std::string& GetID_NAME_() const override { return m_ID_NAME_; }
 
-  /// \name The text of an enumerator, "INVALID" for any other number
+  /// \name Names of enumerators
   /// @{
+
+  /// The text of an enumerator, "INVALID" for any other number.
   static std::string GetEnumName(Enum_PTRACK_PRI_VRML_ value);
   static std::string GetEnumName(Enum_PTRACK_VAL_VRML_ value);
   static std::string GetEnumName(Enum_REF_VRML_ value);

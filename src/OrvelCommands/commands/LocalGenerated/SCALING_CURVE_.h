@@ -48,7 +48,10 @@ public:
 
   /// References are copied as pointers: the copy refers to the same commands.
   SCALING_CURVE_(const SCALING_CURVE_& other) = default;
+
+  /// References are taken as pointers too.
   SCALING_CURVE_& operator=(const SCALING_CURVE_& other) = default;
+
   ~SCALING_CURVE_() override = default;
 
   /// Reads all keys but the references from the storage. Nothing is cleared first and no value is tested.
@@ -68,8 +71,10 @@ public:
   const std::string& GetType() const override;
   const std::string& GetID_NAME_() const override { return m_ID_NAME_; }
 
-  /// \name The text of an enumerator, "INVALID" for any other number
+  /// \name Names of enumerators
   /// @{
+
+  /// The text of an enumerator, "INVALID" for any other number.
   static std::string GetEnumName(Enum_TYPE_ value);
   /// @}
 

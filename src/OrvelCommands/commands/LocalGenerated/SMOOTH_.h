@@ -274,7 +274,10 @@ public:
 
   /// References are copied as pointers: the copy refers to the same commands.
   SMOOTH_(const SMOOTH_& other) = default;
+
+  /// References are taken as pointers too.
   SMOOTH_& operator=(const SMOOTH_& other) = default;
+
   ~SMOOTH_() override = default;
 
   /// Reads all keys but the references from the storage. Nothing is cleared first and no value is tested.
@@ -294,8 +297,10 @@ public:
   const std::string& GetType() const override;
   const std::string& GetID_NAME_() const override { return m_ID_NAME_; }
 
-  /// \name The text of an enumerator, "INVALID" for any other number
+  /// \name Names of enumerators
   /// @{
+
+  /// The text of an enumerator, "INVALID" for any other number.
   static std::string GetEnumName(Enum_TASK_ value);
   static std::string GetEnumName(Enum_ALL_ITERATIONS_ value);
   static std::string GetEnumName(Enum_VTM_RESULT_ value);

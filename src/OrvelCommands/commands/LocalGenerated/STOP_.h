@@ -38,7 +38,10 @@ public:
 
   /// References are copied as pointers: the copy refers to the same commands.
   STOP_(const STOP_& other) = default;
+
+  /// References are taken as pointers too.
   STOP_& operator=(const STOP_& other) = default;
+
   ~STOP_() override = default;
 
   /// Reads all keys but the references from the storage. Nothing is cleared first and no value is tested.

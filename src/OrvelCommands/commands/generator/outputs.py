@@ -10,9 +10,13 @@ BANNER = ("/// Generated from $tables\n"
           "/// by $generator. Do not edit: change the table and run `$command_line`.")
 
 
+def table_names(tables):
+    return " and ".join(f"{table.name}.toml" for table in tables)
+
+
 def banner(*tables):
-    names = " and ".join(f"{table.name}.toml" for table in tables)
-    return substitute("BANNER", BANNER, {"tables": names, "generator": GENERATOR, "command_line": COMMAND_LINE})
+    return substitute("BANNER", BANNER,
+                      {"tables": table_names(tables), "generator": GENERATOR, "command_line": COMMAND_LINE})
 
 
 class CommandText:
@@ -108,7 +112,7 @@ class AggregateText:
 
 def make_outputs(tables):
     """All generated files: path below src/OrvelCommands to text, in a stable order."""
-    texts = {table.name: [CommandText(table, command) for command in table.commands] for table in tables}
+    texts = _command_texts(tables)
     outputs = {}
     for table in tables:
         commands = texts[table.name]
@@ -122,7 +126,7 @@ def make_outputs(tables):
             includes="".join(f'#include "OrvelCommands/{GENERATED}/{text.command.class_name}.h"\n'
                              for text in commands))
     outputs[f"{GENERATED}/command_schema_data.h"] = _schema_data(tables, texts)
-    aggregates = [_aggregate(table, tables, texts) for table in tables]
+    aggregates = make_aggregates(tables, texts)
     for aggregate in aggregates:
         outputs[f"parfile/{aggregate.aggregate.class_name}.h"] = aggregate.header()
         outputs[f"parfile/{aggregate.aggregate.class_name}.cpp"] = aggregate.source()
@@ -137,6 +141,16 @@ def make_outputs(tables):
         functions="".join(fill("for_each_aggregate.h.tmpl", aggregate=a.aggregate.class_name,
                                calls=a.each("for_each_kind.h")) for a in aggregates))
     return outputs
+
+
+def _command_texts(tables):
+    return {table.name: [CommandText(table, command) for command in table.commands] for table in tables}
+
+
+def make_aggregates(tables, texts=None):
+    """The pieces of all aggregates."""
+    texts = texts or _command_texts(tables)
+    return [_aggregate(table, tables, texts) for table in tables]
 
 
 def _aggregate(table, tables, texts):
