@@ -2,13 +2,17 @@
 #include "subcommands/subcommands.h"
 #include "support/exit_code.h"
 #include "support/printable.h"
+#include "support/raw_words.h"
 
 #include "OrvelCommands/foundation/KLV_Exception.h"
 
 #include <CLI/CLI.hpp>
 #include <H5Cpp.h>
 
+#include <algorithm>
+#include <cstdlib>
 #include <iostream>
+#include <utility>
 
 namespace
 {
@@ -39,10 +43,15 @@ int Run(int argument_count, char** arguments)
   AddExport(tool);
   AddCheck(tool);
   AddShow(tool);
+  AddSet(tool);
+  AddUnset(tool);
   AddSchema(tool);
+  AddComplete(tool);
   try
   {
-    tool.parse(argument_count, arguments);
+    std::vector<std::string> words = ReadArguments(argument_count, arguments);
+    std::reverse(words.begin(), words.end());  // the order that CLI11 takes
+    tool.parse(std::move(words));
   }
   catch (const CLI::ParseError& error)
   {
@@ -66,6 +75,10 @@ int main(int argument_count, char** arguments)
   try
   {
     return Run(argument_count, arguments);
+  }
+  catch (const UnwritableFile& error)
+  {
+    std::_Exit(Report(error.what(), exitUnusable));
   }
   catch (const UnusableInput& error)
   {

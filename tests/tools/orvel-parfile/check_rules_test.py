@@ -75,7 +75,8 @@ class UnknownKinds(RulesTest):
         self.job["REPORT_"] = {"r": {}}
         self.assert_finds(("unknown-kind", "REPORT_", "", "", ""), ("unknown-kind", "STOPS_", "", "", ""))
         self.assertIn("the nearest is STOP_; there are MODEL_, ELEMENT_GROUP_,", self.remedies(of="unknown-kind")[1])
-        self.assertIn("orvel-parfile unset STOPS_", self.remedies(of="unknown-kind")[1])
+        self.assertIn("orvel-parfile unset STOPS_ a; orvel-parfile unset STOPS_ b; orvel-parfile unset STOPS_",
+                      self.remedies(of="unknown-kind")[1])
 
     def test_are_found_without_a_command(self):
         with self.open_file() as file:
@@ -292,7 +293,7 @@ class ForeignObjects(RulesTest):
             file["PARFILE/DV_/porosity"].attrs["author"] = "me"
         result = self.tool("check")
         self.assertEqual((FAULTS, ".: warning: /PARFILE/DV_/porosity: 1 attribute, which no command reads "
-                          "[foreign-object]\n    mend: take it away with the program that wrote it\n1 warning\n", ""),
+                          "[foreign-object]\n    mend: take it away with: orvel-parfile unset DV_ porosity --attributes\n1 warning\n", ""),
                          result)
         self.assertEqual(GOOD, self.tool("check", "--ignore", "foreign-object").code)
 

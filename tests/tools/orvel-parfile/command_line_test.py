@@ -29,6 +29,10 @@ class HelpAndVersion(ToolTest):
     def test_the_help_of_show_names_its_arguments(self):
         self.assert_helps(("show",), "Usage: orvel-parfile show ", "file", "--job", "gyre", "smooth")
 
+    def test_the_help_of_set_and_unset_names_their_arguments(self):
+        self.assert_helps(("set",), "Usage: orvel-parfile set ", "[FILE] KIND ID KEY VALUE...", "--new", "--type")
+        self.assert_helps(("unset",), "Usage: orvel-parfile unset ", "[FILE] KIND [ID [KEY]]", "--force", "--attributes")
+
     def test_help_does_nothing_else(self):
         self.copy_example("bent_duct")
         self.assertEqual(GOOD, self.tool("import", "job.toml", "--help").code)
@@ -69,6 +73,11 @@ class WrongUse(ToolTest):
         self.assert_wrong_use("import", "job.toml", ".", "again", says="again")
         self.assert_wrong_use("check", ".", "again", says="again")
         self.assert_wrong_use("show", ".", "again", says="again")
+
+    def test_set_and_unset_without_what_to_change(self):
+        self.assert_wrong_use("set", says="words")
+        self.assert_wrong_use("set", "DV_", "porosity", says="set needs")
+        self.assert_wrong_use("unset", says="unset needs")
 
     def test_two_subcommands(self):
         self.copy_example("bent_duct")

@@ -274,7 +274,28 @@ std::string Remedies::Remove(const JobCommand& command) const
   return m_is_description ? "take its table away" : TakeAway({command.kind, command.id});
 }
 
-std::string Remedies::RemoveKind(const std::string& kind) const
+std::string Remedies::RemoveKind(const std::string& kind, const std::vector<std::string>& ids) const
 {
-  return m_is_description ? "take its tables away" : TakeAway({kind});
+  if (m_is_description)
+  {
+    return "take its tables away";
+  }
+  std::string commands;
+  for (std::size_t place = 0; place < std::min(ids.size(), kMostWords); ++place)
+  {
+    commands += Command("unset", {kind, ids[place]}) + "; ";
+  }
+  const std::string others = ids.size() > kMostWords ? "the same for each of its commands; " : "";
+  return "take it away with: " + commands + others + Command("unset", {kind});
+}
+
+std::string Remedies::RemoveForeign(const std::vector<std::string>& names, bool is_attribute) const
+{
+  std::vector<std::string> words = names;
+  words.erase(std::remove(words.begin(), words.end(), std::string()), words.end());
+  if (is_attribute)
+  {
+    words.emplace_back("--attributes");
+  }
+  return TakeAway(words);
 }

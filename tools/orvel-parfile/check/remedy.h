@@ -29,8 +29,12 @@ public:
   /// Takes a command away.
   std::string Remove(const JobCommand& command) const;
 
-  /// Takes all commands of a kind away.
-  std::string RemoveKind(const std::string& kind) const;
+  /// Takes a kind away with all its commands.
+  std::string RemoveKind(const std::string& kind, const std::vector<std::string>& ids) const;
+
+  /// Takes away what is no part of the layout, which only a parameter file can hold.
+  /// \param names kind, id and key, as far as its path goes
+  std::string RemoveForeign(const std::vector<std::string>& names, bool is_attribute) const;
 
 private:
   std::string Command(const std::string& subcommand, const std::vector<std::string>& words) const;

@@ -42,14 +42,15 @@ void FindUnknownKinds(const CheckSubject& subject, std::vector<Finding>& finding
   {
     if (schema::FindCommand(kind) == nullptr)
     {
-      findings.push_back({&rules::unknown_kind,
-                          kind,
-                          {},
-                          {},
-                          {},
-                          place,
-                          "there is no kind of command " + PlainText(kind),
-                          Joined(NearestName(kind, KindNames()), "or " + subject.remedies.RemoveKind(kind))});
+      findings.push_back(
+        {&rules::unknown_kind,
+         kind,
+         {},
+         {},
+         {},
+         place,
+         "there is no kind of command " + PlainText(kind),
+         Joined(NearestName(kind, KindNames()), "or " + subject.remedies.RemoveKind(kind, subject.index.Ids(kind)))});
     }
   }
 }
@@ -178,7 +179,7 @@ void FindForeignObjects(const CheckSubject& subject, std::vector<Finding>& findi
                         object.what,
                         {},
                         PlainText(object.path) + ": " + object.what + ", which no command reads",
-                        "take it away with the program that wrote it"});
+                        subject.remedies.RemoveForeign(names, object.what.find("attribute") != std::string::npos)});
   }
 }
 

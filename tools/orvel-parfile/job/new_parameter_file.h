@@ -3,14 +3,13 @@
 #pragma once
 
 #include "job.h"
-#include "scratch_folder.h"
+#include "replacement_file.h"
 
 #include <filesystem>
 #include <string>
 #include <vector>
 
-/// A parameter file that is filled in a folder of its own beside its place, and only whole takes that place: a kill at
-/// any moment leaves what was there before.
+/// A parameter file that is filled from a job and only whole takes its place, as ReplacementFile tells.
 class NewParameterFile
 {
 public:
@@ -19,6 +18,7 @@ public:
 
   /// Writes the commands, then their values, then their references.
   /// Returns: each failure with the place in the job description; what failed is left out of the file.
+  /// Throws: UnwritableFile, as on a full disk.
   std::vector<std::string> Fill(const Job& job);
 
   /// The file under work.
@@ -28,6 +28,5 @@ public:
   void PutInPlace();
 
 private:
-  std::filesystem::path m_place;
-  ScratchFolder m_folder;
+  ReplacementFile m_file;
 };

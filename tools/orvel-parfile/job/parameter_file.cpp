@@ -1,37 +1,16 @@
 #include "parameter_file.h"
 
+#include "file_lock.h"
 #include "support/exit_code.h"
 
 #include "OrvelCommands/foundation/KLV_Failure.h"
 
-#include <fcntl.h>
-#include <sys/file.h>
-#include <unistd.h>
-
-#include <cerrno>
 #include <system_error>
 
 namespace fs = std::filesystem;
 
 namespace
 {
-
-// HDF5 holds a lock on each file that it has open, exclusive for writing.
-void RequireNoWriter(const fs::path& path)
-{
-  const int descriptor = open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
-  if (descriptor < 0)
-  {
-    return;  // the storage tells why
-  }
-  const bool is_written = flock(descriptor, LOCK_SH | LOCK_NB) != 0 && errno == EWOULDBLOCK;
-  close(descriptor);
-  if (is_written)
-  {
-    throw UnusableInput(path.string() +
-                        ": another process holds the file open for writing; try again when it has ended");
-  }
-}
 
 void RequireFile(const fs::path& path)
 {
@@ -90,7 +69,6 @@ fs::path NewParameterFilePath(const fs::path& argument, bool force)
       throw UnusableInput(path.string() + " exists already; --force replaces it");
     }
     RequireFile(path);
-    RequireNoWriter(path);
   }
   return path;
 }
@@ -98,7 +76,7 @@ fs::path NewParameterFilePath(const fs::path& argument, bool force)
 std::unique_ptr<ParfileHdf5Storage> OpenParameterFile(const fs::path& path)
 {
   RequireFile(path);
-  RequireNoWriter(path);
+  FileLock::AgainstWriters(path);
   const WorkingDirectory folder(path.parent_path());
   try
   {

@@ -116,4 +116,5 @@ void RemoveScratchFolderOnSignals()
   {
     ::signal(signal, RemoveAndEnd);
   }
+  ::signal(SIGXFSZ, SIG_IGN);  // a file that may not grow is a failure of writing like any other
 }

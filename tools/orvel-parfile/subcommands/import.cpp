@@ -1,4 +1,5 @@
 #include "check/rules.h"
+#include "job/file_lock.h"
 #include "job/inventory.h"
 #include "job/job_description.h"
 #include "job/new_parameter_file.h"
@@ -24,6 +25,7 @@ struct Options
 void Import(const Options& options)
 {
   const std::filesystem::path place = NewParameterFilePath(options.file, options.force);
+  const ReplacementLock lock(place);
   const Job job = ReadSoundJobDescription(options.job);
   NewParameterFile file(place);
   const std::vector<std::string> failures = file.Fill(job);

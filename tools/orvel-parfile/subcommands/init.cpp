@@ -1,3 +1,4 @@
+#include "job/file_lock.h"
 #include "job/new_parameter_file.h"
 #include "job/parameter_file.h"
 #include "subcommands.h"
@@ -19,6 +20,7 @@ struct Options
 void Init(const Options& options)
 {
   const std::filesystem::path place = NewParameterFilePath(options.file, options.force);
+  const ReplacementLock lock(place);
   NewParameterFile file(place);
   file.Fill({});
   file.PutInPlace();

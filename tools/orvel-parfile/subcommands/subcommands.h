@@ -17,5 +17,8 @@ void AddImport(CLI::App& tool);
 void AddExport(CLI::App& tool);
 void AddCheck(CLI::App& tool);
 void AddShow(CLI::App& tool);
+void AddSet(CLI::App& tool);
+void AddUnset(CLI::App& tool);
+void AddComplete(CLI::App& tool);
 void AddSchema(CLI::App& tool);
 /// @}

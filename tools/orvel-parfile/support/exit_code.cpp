@@ -16,3 +16,8 @@ std::string JoinLines(const std::vector<std::string>& lines)
 }  // namespace
 
 FaultyInput::FaultyInput(const std::vector<std::string>& faults) : std::runtime_error(JoinLines(faults)) {}
+
+UnwritableFile::UnwritableFile(const std::string& folder)
+  : UnusableInput("a parameter file cannot be written in " + folder + ": is the disk full?")
+{
+}

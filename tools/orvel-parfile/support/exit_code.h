@@ -22,6 +22,14 @@ public:
   using std::runtime_error::runtime_error;
 };
 
+/// A folder whose files cannot be written to their end, as on a full disk. Ends the tool with exitUnusable, at once:
+/// HDF5 crashes in ending with what it could not write.
+class UnwritableFile : public UnusableInput
+{
+public:
+  explicit UnwritableFile(const std::string& folder);
+};
+
 /// Faults of an input that can be read, a line for each. Ends the tool with exitFaults.
 class FaultyInput : public std::runtime_error
 {

@@ -25,7 +25,7 @@ Progress::~Progress()
 {
   if (m_is_shown)
   {
-    std::cerr << "\r\033[K" << std::flush;
+    std::clog << "\r\033[K" << std::flush;
   }
 }
 
@@ -41,6 +41,6 @@ void Progress::Step()
   {
     m_next = now + kInterval;
     m_is_shown = true;
-    std::cerr << "\r\033[K" << m_what << ": " << 100 * m_done / (m_steps > 0 ? m_steps : 1) << "%" << std::flush;
+    std::clog << "\r\033[K" << m_what << ": " << 100 * m_done / (m_steps > 0 ? m_steps : 1) << "%" << std::flush;
   }
 }

@@ -1,0 +1,177 @@
+"""Files that others hold, things that are no files, and full disks: a clear text at once, and nothing is lost."""
+
+import fcntl
+import os
+import resource
+import signal
+import subprocess
+import sys
+import textwrap
+import unittest
+
+import h5py
+
+from support import EXAMPLES, FILE_NAME, GOOD, UNUSABLE, ToolTest, minimal_job, names_in, write_parameter_file
+from tree import tree_of
+
+SET = ("set", "DV_", "porosity", "INITIAL_", "0.7")
+IMPORT = ("import", EXAMPLES / "smooth" / "job.toml", "--force")
+READ = (("check",), ("show",), ("export",))
+CHANGE = (SET, ("unset", "DV_", "porosity", "INITIAL_"), IMPORT, ("init", "--force"))
+
+
+class LockTest(ToolTest):
+    def setUp(self):
+        super().setUp()
+        self.file = write_parameter_file(self.folder, minimal_job())
+
+    def hold(self, mode):
+        """Lets a process of its own hold the file open until the test ends."""
+        script = textwrap.dedent(f"""
+            import h5py, sys
+            file = h5py.File({str(self.file)!r}, {mode!r})
+            print("open", flush=True)
+            sys.stdin.read()
+            """)
+        process = subprocess.Popen([sys.executable, "-c", script], stdin=subprocess.PIPE, stdout=subprocess.PIPE,
+                                   env={**os.environ, "HDF5_USE_FILE_LOCKING": "TRUE"})
+        self.addCleanup(process.wait)
+        self.addCleanup(process.stdout.close)
+        self.addCleanup(process.stdin.close)
+        self.assertEqual(b"open\n", process.stdout.readline())
+
+    def assert_refused(self, arguments, says, **options):
+        before = names_in(self.folder)
+        content = self.file.read_bytes() if self.file.is_file() else None
+        result = self.tool(*arguments, **options)
+        self.assertEqual((UNUSABLE, "", says), result)
+        self.assertEqual(before, names_in(self.folder))
+        if content is not None:
+            self.assertEqual(content, self.file.read_bytes())
+
+
+class HeldFiles(LockTest):
+    def test_that_are_written_are_refused(self):
+        self.hold("r+")
+        for arguments in READ + CHANGE:
+            with self.subTest(arguments):
+                self.assert_refused(arguments, f"{self.file}: another process holds the file open for writing; "
+                                               "try again when it has ended\n")
+
+    def test_that_are_read_may_be_read_and_replaced(self):
+        self.hold("r")
+        for arguments in READ + (SET,):
+            with self.subTest(arguments):
+                self.assertEqual(GOOD, self.tool(*arguments).code)
+        with h5py.File(self.file, "r") as file:
+            self.assertEqual([0.7], list(file["PARFILE/DV_/porosity/INITIAL_"]))
+        self.assertEqual(GOOD, self.tool(*IMPORT).code)
+
+    def test_that_are_being_replaced_are_refused(self):
+        folder = os.open(self.folder, os.O_RDONLY)
+        self.addCleanup(os.close, folder)
+        fcntl.flock(folder, fcntl.LOCK_EX)
+        for arguments in CHANGE:
+            with self.subTest(arguments):
+                self.assert_refused(arguments, f"{self.folder}: another orvel-parfile is changing a parameter file of "
+                                               "this folder; try again when it has ended\n")
+        for arguments in READ:
+            with self.subTest(arguments):
+                self.assertEqual(GOOD, self.tool(*arguments).code)
+
+
+class SetsAtOnce(LockTest):
+    def test_lose_nothing_without_a_word(self):
+        keys = ("VISCOSITY_", "RESIDUAL_")
+        for turn in range(5):
+            runs = [subprocess.Popen(
+                [os.environ["ORVEL_PARFILE"], "set", "PRE_PARAM_", "open_box", key, str(turn + 10)], cwd=self.folder,
+                stdout=subprocess.DEVNULL, stderr=subprocess.PIPE) for key in keys]
+            for key, run in zip(keys, runs):
+                err = run.communicate()[1].decode()
+                with h5py.File(self.file, "r") as file:
+                    value = file[f"PARFILE/PRE_PARAM_/open_box/{key}"][0]
+                if run.returncode == GOOD:
+                    self.assertEqual(turn + 10, value)
+                else:
+                    self.assertEqual(UNUSABLE, run.returncode)
+                    self.assertIn("another orvel-parfile is changing", err)
+                    self.assertNotEqual(turn + 10, value)
+        self.assertEqual([FILE_NAME], names_in(self.folder))
+
+
+class NoFiles(LockTest):
+    def test_are_refused_at_once(self):
+        def pipe():
+            os.mkfifo(self.file)
+
+        def device():
+            self.file.symlink_to("/dev/zero")
+
+        for make, what in ((pipe, "this is no file"), (device, "this is no file"), (self.file.mkdir, "")):
+            with self.subTest(make.__name__):
+                self.remove()
+                make()
+                for arguments in READ + CHANGE:
+                    result = self.tool(*arguments)
+                    self.assertEqual((UNUSABLE, ""), (result.code, result.out), arguments)
+                    self.assertIn(what, result.err)
+                    self.assertNotEqual("", result.err)
+                    self.assertEqual([FILE_NAME], names_in(self.folder))
+
+    def remove(self):
+        if self.file.is_dir():
+            self.file.rmdir()
+        else:
+            self.file.unlink()
+
+    def test_a_link_to_nothing_is_refused(self):
+        self.file.unlink()
+        self.file.symlink_to("gone.hdf5")
+        self.assert_refused(SET, f"{self.file}: this link leads to no file\n")
+        self.assert_refused(IMPORT, f"{self.file}: this link leads to no file\n")
+        self.assertTrue(self.file.is_symlink())
+
+
+class FullDisks(LockTest):
+    def limit(self, size):
+        def limit():
+            signal.signal(signal.SIGXFSZ, signal.SIG_IGN)
+            resource.setrlimit(resource.RLIMIT_FSIZE, (size, size))
+        return limit
+
+    def test_leave_the_old_file(self):
+        self.tool("set", "DV_", "porosity", "ELEMENT_GROUP_", "box")
+        before = tree_of(self.file)
+        size = self.file.stat().st_size
+        limits = {"init": (0, 100), "import": (0, 100, 2000)}  # of others than the size of the file that is there
+        for arguments in CHANGE:
+            for limit in limits.get(arguments[0], (0, 100, 2000, size // 2, size - 100)):
+                with self.subTest(arguments[0], limit=limit):
+                    self.assertEqual(
+                        (UNUSABLE, "", f"a parameter file cannot be written in {self.folder}: is the disk full?\n"),
+                        self.tool(*arguments, preexec_fn=self.limit(limit)))
+                    self.assertEqual(before, tree_of(self.file))
+                    self.assertEqual([FILE_NAME], names_in(self.folder))
+
+    def test_are_noticed_when_only_the_change_does_not_fit(self):
+        before = self.file.read_bytes()
+        self.assertEqual(
+            (UNUSABLE, "", f"a parameter file cannot be written in {self.folder}: is the disk full?\n"),
+            self.tool("set", "MODEL_", "duct", "FILE_", "x" * 100_000, preexec_fn=self.limit(len(before) + 1000)))
+        self.assertEqual(before, self.file.read_bytes())
+        self.assertEqual([FILE_NAME], names_in(self.folder))
+
+    def test_during_import_at_any_place(self):
+        self.assertEqual(GOOD, self.tool(*IMPORT).code)
+        size = self.file.stat().st_size
+        before = self.file.read_bytes()
+        for part in range(10):
+            with self.subTest(part):
+                self.assert_refused(IMPORT, f"a parameter file cannot be written in {self.folder}: is the disk full?\n",
+                                    preexec_fn=self.limit(size * part // 10))
+        self.assertEqual(before, self.file.read_bytes())
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,0 +1,36 @@
+/// \file
+/// Files that take the place of others.
+#pragma once
+
+#include "scratch_folder.h"
+
+#include <filesystem>
+
+/// The place that a path means: where a link leads, so that the link stays.
+/// Throws: UnusableInput for a link to nothing.
+std::filesystem::path PlaceOf(const std::filesystem::path& path);
+
+/// A parameter file that comes to be in a folder of its own beside its place, and only whole takes that place: a kill
+/// at any moment leaves what was there before.
+class ReplacementFile
+{
+public:
+  /// Makes the folder. Throws: UnusableInput when that is not possible.
+  explicit ReplacementFile(const std::filesystem::path& place);
+
+  /// The file under work, which is the user's to make.
+  std::filesystem::path Path() const;
+
+  /// Makes the file as a copy of what stands in the place. Throws: UnwritableFile.
+  void CopyFromPlace() const;
+
+  /// Gives the file the rights and, where possible, the owner of what stands in the place.
+  void TakeRightsOfPlace() const;
+
+  /// Brings the file safely to disk and to its place. Throws: UnusableInput when that is not possible.
+  void PutInPlace() const;
+
+private:
+  std::filesystem::path m_place;
+  ScratchFolder m_folder;
+};
