@@ -1,6 +1,7 @@
 """Each rule of orvel-parfile check, provoked and passed: in parameter files that h5py wrote and in job descriptions."""
 
 import re
+import shlex
 import tomllib
 import unittest
 
@@ -8,7 +9,7 @@ import h5py
 import numpy
 
 from check_support import CheckTest, Finding, coordinate_system, operator, response, sound_job
-from support import FAULTS, GOOD, ROOT, doubles, integers, references, texts
+from support import FAULTS, GOOD, ROOT, doubles, integer_lists, integers, references, texts
 
 ALL_RULES = [
     "library", "impossible-name", "foreign-object", "unknown-kind", "unknown-key", "missing-key", "wrong-type",
@@ -747,6 +748,48 @@ class SmoothingJobs(RulesTest):
         found = self.findings("--job", "smooth")
         self.assertEqual({"SMOOTH_", "REPORT_"}, {finding.kind for finding in found})
         self.assertEqual({"missing-key", "wrong-type", "unknown-kind"}, {finding.rule for finding in found})
+
+
+class RemediesForFiles(RulesTest):
+    """The commands that remedies name do what they say."""
+
+    def follow(self, remedy):
+        """Runs every command of the tool that a remedy names, as a shell would."""
+        commands = re.findall(r"orvel-parfile ((?:set|unset) [^;]+)", remedy)
+        self.assertNotEqual([], commands, remedy)
+        for command in commands:
+            words = shlex.split(re.split(", (?:where|or) ", command)[0])
+            result = self.tool(*["1" if word == "INTEGER" else word for word in words])
+            self.assertEqual(GOOD, result.code, (command, result.err))
+
+    def test_mend_a_file_with_many_faults(self):
+        self.job["STOP_"]["converged"]["ITER_MIN_"] = integers(81)
+        self.job["STOP_"]["first try"] = self.job["STOP_"]["converged"]
+        self.job["REPORT_"] = {"a": {}, "b": {}}
+        self.job["MODEL_"]["duct"]["SOLVR_"] = texts("rans")
+        self.job["MODEL_"]["duct"]["SOLVER_"] = integers(3)
+        self.job["OPT_PARAM_"]["run"] = {"SRC_SCALE_": integers(2)}
+        self.job["DV_"]["porosity"]["INITIAL_"] = doubles(-0.4, 0.5)
+        self.job["ALGO_"]["topology"]["PRE_PARAM_"] = references("OPT_PARAM_/run")
+        self.job["OPERATOR_"] = {"sum": operator(OPERATOR_=references("OPERATOR_/sum"), OPERATOR_WEIGHT_=doubles(1.0))}
+        self.job["OBJ_FUNC_"]["loss"]["OPERATOR_"] = references("OPERATOR_/sum")
+        self.job["NODE_GROUP_"] = {"rim": {"LIST_": integer_lists([1, 2])}}
+        with self.open_file() as file:
+            file["PARFILE"].attrs["author"] = "me"
+            file["PARFILE/DV_/porosity/LINK_"] = h5py.SoftLink("INITIAL_")
+            del file["PARFILE/MODEL_/duct/SOLVER_"]
+            file["PARFILE/MODEL_/duct"].create_dataset("SOLVER_", data=["rans"], dtype=h5py.string_dtype())
+        found = set()
+        for _ in range(40):
+            left = [finding for finding in self.report()["findings"] if finding["rule"] != "library"]
+            if not left:
+                break
+            found.add(left[0]["rule"])
+            self.follow(left[0]["remedy"])
+        self.assertEqual(GOOD, self.tool("check").code, self.tool("check").out)
+        self.assertEqual({"foreign-object", "unknown-kind", "unknown-key", "missing-key", "wrong-type", "wrong-count",
+                          "wrong-target", "unreachable-command", "reference-cycle", "list-lengths",
+                          "response-or-operator", "limits", "unused-group"}, found)
 
 
 class BrokenBentDuct(CheckTest):

@@ -79,7 +79,8 @@ std::string CountText(const schema::Field& field, std::size_t count)
   return std::string(field.key) + " has " + std::to_string(count) + (count == 1 ? " value" : " values");
 }
 
-void CheckListLengths(const JobCommand& command, const KeyPair& pair, std::vector<Finding>& findings)
+void CheckListLengths(const CheckSubject& subject, const JobCommand& command, const KeyPair& pair,
+                      std::vector<Finding>& findings)
 {
   if (!IsRepeated(*pair.one) || !IsRepeated(*pair.other) || IsInDoubt(command, *pair.one) ||
       IsInDoubt(command, *pair.other))
@@ -97,6 +98,10 @@ void CheckListLengths(const JobCommand& command, const KeyPair& pair, std::vecto
                    CountText(*pair.other, other_count) + ", though they stand beside each other";
     finding.value = std::to_string(count) + " and " + std::to_string(other_count);
     finding.remedy = "give both the same number of values";
+    if (count == 0 || other_count == 0)
+    {
+      finding.remedy += ", or " + subject.remedies.Remove(command, finding.key);
+    }
     findings.push_back(std::move(finding));
   }
 }
@@ -234,7 +239,7 @@ void CheckValues(const CheckSubject& subject, std::vector<Finding>& findings)
     {
       for (const KeyPair& pair : PairsOf(*kind, endings))
       {
-        CheckListLengths(command, pair, findings);
+        CheckListLengths(subject, command, pair, findings);
       }
     }
     CheckResponseOrOperator(subject, command, *kind, findings);
