@@ -150,7 +150,8 @@ class MissingKeys(RulesTest):
         self.assert_finds_in('[MODEL_.m]\nFILE_ = "f"\n', "missing-key")
 
     def test_of_a_description_stand_at_their_command(self):
-        self.assert_finds_in('[OPT_PARAM_.a]\nOPT_START_ = 1\n[OPT_PARAM_.b]\nSRC_SCALE_ = 1.0\n', "missing-key", (3, 1))
+        self.assert_finds_in('[OPT_PARAM_.a]\nOPT_START_ = 1\n[OPT_PARAM_.b]\nSRC_SCALE_ = 1.0\n', "missing-key",
+                             (3, 1))
 
 
 class WrongTypes(RulesTest):
@@ -294,7 +295,8 @@ class ForeignObjects(RulesTest):
             file["PARFILE/DV_/porosity"].attrs["author"] = "me"
         result = self.tool("check")
         self.assertEqual((FAULTS, ".: warning: /PARFILE/DV_/porosity: 1 attribute, which no command reads "
-                          "[foreign-object]\n    mend: take it away with: orvel-parfile unset DV_ porosity --attributes\n1 warning\n", ""),
+                          "[foreign-object]\n    mend: take it away with: orvel-parfile unset DV_ porosity "
+                          "--attributes\n1 warning\n", ""),
                          result)
         self.assertEqual(GOOD, self.tool("check", "--ignore", "foreign-object").code)
 

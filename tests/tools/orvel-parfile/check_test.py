@@ -7,8 +7,8 @@ import h5py
 import numpy
 
 from check_support import CheckTest, sound_job
-from support import (EXAMPLES, FAULTS, FILE_NAME, GOOD, UNUSABLE, ToolTest, doubles, integer_lists, integers, minimal_job,
-                     names_in, references, texts, write_parameter_file)
+from support import (FAULTS, FILE_NAME, GOOD, UNUSABLE, doubles, integer_lists, integers, minimal_job, names_in,
+                     references, texts, write_parameter_file)
 
 BENT_DUCT_COUNTS = "25 kinds, 55 commands, 477 values (50 of them model ids), 49 references"
 SOUND_COUNTS = "12 kinds, 12 commands, 89 values (2 of them model ids), 9 references"
@@ -47,7 +47,8 @@ class Examples(PrintTest):
         self.copy_example("bent_duct")
         self.tool("import", "job.toml")
         self.assertEqual(
-            (GOOD, f"{LINES_OF_FIVE_NOTES}. is good: {BENT_DUCT_COUNTS}\nmodel ids checked against 27 names of model_ids.toml\n", ""),
+            (GOOD, f"{LINES_OF_FIVE_NOTES}. is good: {BENT_DUCT_COUNTS}\n"
+                   "model ids checked against 27 names of model_ids.toml\n", ""),
             self.tool("check", "--model-ids", "model_ids.toml"))
 
     def test_the_bent_duct_is_good_as_a_description_and_nothing_is_written(self):
