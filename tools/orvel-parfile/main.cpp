@@ -72,9 +72,10 @@ int Run(int argument_count, char** arguments)
   {
     return tool.exit(error) == 0 ? FlushOutput() : exitUnusable;
   }
-  catch (const FaultsAreTold&)
+  catch (const FaultsPrinted&)
   {
-    return FlushOutput() == exitGood ? exitFaults : exitUnusable;
+    const ExitCode output = FlushOutput();
+    return output == exitGood ? exitFaults : output;
   }
   return FlushOutput();
 }

@@ -23,7 +23,8 @@ class HelpAndVersion(ToolTest):
         self.assert_helps(("import",), "Usage: orvel-parfile import ", "job", "file", "--force")
 
     def test_the_help_of_check_names_its_arguments(self):
-        self.assert_helps(("check",), "Usage: orvel-parfile check ", "file", "--model-ids", "--job", "gyre", "smooth")
+        self.assert_helps(("check",), "Usage: orvel-parfile check ", "file", "--model-ids", "--job", "gyre", "smooth",
+                          "--ignore", "--json", "--rules", "--markdown", "Example: orvel-parfile check")
 
     def test_the_help_of_show_names_its_arguments(self):
         self.assert_helps(("show",), "Usage: orvel-parfile show ", "file", "kind", "id", "--log", "--json", "--job", "gyre",
@@ -99,6 +100,13 @@ class WrongUse(ToolTest):
         self.assert_wrong_use("graph", "-o", says="--output")
         self.assert_wrong_use("check", "--model-ids", says="--model-ids")
         self.assert_wrong_use("check", "--job", says="--job")
+        self.assert_wrong_use("check", "--ignore", says="--ignore")
+
+    def test_an_unknown_rule(self):
+        self.assert_wrong_use("check", "--ignore", "limit", says="there is no rule limit; the nearest is limits")
+
+    def test_a_page_of_nothing(self):
+        self.assert_wrong_use("check", "--markdown", says="--rules")
 
     def test_an_unknown_job(self):
         for command in ("check", "show"):
@@ -119,16 +127,21 @@ class Streams(ToolTest):
 
     def test_faults_go_to_standard_error_and_nothing_to_standard_output(self):
         self.copy_example("bent_duct_broken")
-        for arguments in (("import", "job.toml"), ("check", "job.toml", "--model-ids", "model_ids.toml")):
-            with self.subTest(arguments):
-                result = self.tool(*arguments)
-                self.assertEqual((FAULTS, ""), (result.code, result.out))
-                self.assertNotEqual("", result.err)
+        result = self.tool("import", "job.toml")
+        self.assertEqual((FAULTS, ""), (result.code, result.out))
+        self.assertNotEqual("", result.err)
+
+    def test_the_findings_of_a_check_are_its_data(self):
+        self.copy_example("bent_duct_broken")
+        result = self.tool("check", "job.toml", "--model-ids", "model_ids.toml")
+        self.assertEqual((FAULTS, ""), (result.code, result.err))
+        self.assertNotEqual("", result.out)
 
     def test_messages_carry_no_prefix_of_the_log(self):
         self.copy_example("bent_duct_broken")
         for arguments in (("check", "job.toml", "--model-ids", "model_ids.toml"), ("check",), ("import", "job.toml")):
-            self.assertNotIn("[%T|", self.tool(*arguments).err)
+            result = self.tool(*arguments)
+            self.assertNotIn("[%T|", result.out + result.err)
 
     def test_data_that_cannot_be_written_is_no_success(self):
         self.tool("import", EXAMPLES / "bent_duct" / "job.toml")

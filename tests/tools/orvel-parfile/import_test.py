@@ -198,15 +198,25 @@ class Examples(ImportTest):
             (GOOD, "imported job.toml: 1 kinds, 1 commands, 74 values (0 of them model ids), 0 references\n", ""),
             self.tool("import", "job.toml"))
 
-    def test_the_broken_bent_duct_is_refused_for_its_wrong_response_and_leaves_nothing(self):
+    def test_the_broken_bent_duct_is_refused_for_what_no_file_can_hold_and_leaves_nothing(self):
         self.copy_example("bent_duct_broken")
+        result = self.tool("import", "job.toml")
+        self.assertEqual((FAULTS, ""), (result.code, result.out))
+        for line, text in zip(result.err.splitlines(), (
+                'the id "outlet/bolts" of a NODE_GROUP_ cannot stand in a parameter file',
+                "DV_ porosity: TYPE_ must be an enumerator, not 'DENSTY'; the nearest is DENSITY",
+                "OUTPUT_ density has no key COMPRESSION_", "there is no kind of command REPORT_"), strict=True):
+            self.assertIn(text, line)
+        self.assertEqual(["job.toml", "model_ids.toml"], names_in(self.folder))
+
+    def test_an_absent_target_of_a_reference_is_refused(self):
+        self.write("job.toml", '[MONITOR_.m]\nDRESP_ = "gone"\n')
         self.assertEqual(
             (FAULTS, "",
-             "job.toml:103:10: A command of type DRESP_ with the ID_NAME uniformity_oulet referenced in the "
-             "parameterfile is not found\n"
-             "  The command is reference from the CONSTRAINT_ command with ID_NAME flat_profile\n"),
+             "job.toml:2:10: A command of type DRESP_ with the ID_NAME gone referenced in the parameterfile is not found\n"
+             "  The command is reference from the MONITOR_ command with ID_NAME m\n"),
             self.tool("import", "job.toml"))
-        self.assertEqual(["job.toml", "model_ids.toml"], names_in(self.folder))
+        self.assertEqual(["job.toml"], names_in(self.folder))
 
 
 class WrittenFile(ImportTest):

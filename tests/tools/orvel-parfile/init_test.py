@@ -24,8 +24,8 @@ class Init(support.ToolTest):
     def test_gives_a_file_whose_load_misses_the_first_command_that_a_job_needs(self):
         self.tool("init")
         ended = self.tool("check", ".")
-        self.assertEqual((ended.code, ended.err), (
-            1, "0 commands of type MODEL_ detected. Only one is expected.\n"))
+        self.assertEqual((ended.code, ended.out.splitlines()[0]), (
+            1, ".: error: 0 commands of type MODEL_ detected. Only one is expected. [library]"))
 
     def test_refuses_to_touch_a_file_that_is_there(self):
         file = self.folder / "parfile_storage.hdf5"

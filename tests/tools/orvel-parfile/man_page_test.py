@@ -37,7 +37,7 @@ class ManPage(ToolTest):
         names = re.findall(r"^  ([a-z]+) ", self.tool("--help").out.split("Subcommands:")[1], re.MULTILINE)
         self.assertLessEqual({"init", "import", "export", "show", "check", "set", "unset", "schema"}, set(names))
         for name in names:
-            lines = [line for line in synopsis.splitlines() if f"orvel-parfile {name}" in line]
+            lines = [line for line in re.split("(?=orvel-parfile )", synopsis) if line.startswith(f"orvel-parfile {name}")]
             self.assertNotEqual([], lines, name)
             self.assertRegex(page, rf"(?m)^ +{name} {{2,}}[A-Z]")
             for option in re.findall(r"^ .*?(--[a-z-]+)", self.tool(name, "--help").out, re.MULTILINE):

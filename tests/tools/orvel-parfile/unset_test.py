@@ -59,7 +59,7 @@ class Keys(UnsetTest):
         self.assert_removes((".", "DV_", "porosity", "TYPE_"), "DV_ porosity: TYPE_ removed, was DENSITY",
                             "DV_/porosity/TYPE_",
                             notes="DV_ porosity: TYPE_ must always be there; check will miss it\n")
-        self.assertIn("DV_ porosity lacks the key TYPE_", self.tool("check").err)
+        self.assertIn("DV_ porosity lacks the key TYPE_", self.tool("check").out)
 
     def test_that_no_command_reads_are_removed(self):
         self.assert_removes(("EXTRA_", "thing", "TABLE_"),

@@ -2,6 +2,7 @@
 /// The rules that a check knows. Constants only.
 #pragma once
 
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -16,11 +17,19 @@ enum class Severity
 /// What a severity is called in the output, "error".
 std::string_view SeverityName(Severity severity);
 
+/// Which jobs a rule is for.
+enum class RuleScope
+{
+  EveryJob,
+  GyreJob  ///< What it looks at is nothing that a smoothing job reads.
+};
+
 /// One rule. There is one object for each, so that rules compare by address.
 struct Rule
 {
   std::string_view name;  ///< As --ignore takes it.
   Severity severity;
+  RuleScope scope;
   std::string_view what;     ///< What it finds, one line.
   std::string_view why;      ///< Why that matters, a sentence or two.
   std::string_view failing;  ///< Lines of a job description, or what a file holds, that it finds.
@@ -52,8 +61,11 @@ extern const Rule unused_group;
 extern const Rule unused_model_group;
 }  // namespace rules
 
-/// All rules, in the order in which a check reports them.
+/// All rules, in the order in which a check reports what they find at one place.
 const std::vector<const Rule*>& AllRules();
 
 /// The rule with this name, null when there is none.
 const Rule* FindRule(std::string_view name);
+
+/// The names of all rules.
+std::vector<std::string> RuleNames();

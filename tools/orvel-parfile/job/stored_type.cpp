@@ -1,5 +1,7 @@
 #include "stored_type.h"
 
+#include "support/hdf5_handle.h"
+
 #include <array>
 
 namespace
@@ -148,6 +150,19 @@ const StoredType* ClassifyType(hid_t type)
     }
   }
   return nullptr;
+}
+
+bool AreSameButForByteOrder(const StoredType& one, const StoredType& other)
+{
+  const bool are_numbers = one.shape == ValueShape::Integer || one.shape == ValueShape::Number;
+  if (&one == &other || one.shape != other.shape || !are_numbers)
+  {
+    return &one == &other;
+  }
+  const Hdf5Handle first(one.make(), H5Tclose);
+  const Hdf5Handle second(other.make(), H5Tclose);
+  return H5Tget_size(first.Id()) == H5Tget_size(second.Id()) &&
+         (one.shape == ValueShape::Number || H5Tget_sign(first.Id()) == H5Tget_sign(second.Id()));
 }
 
 bool Holds(const StoredType& type, std::int64_t value)

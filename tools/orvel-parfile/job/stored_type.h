@@ -50,6 +50,9 @@ const StoredType* FindStoredType(std::string_view name);
 /// The type of the elements of a dataset, null for one that is none of ours.
 const StoredType* ClassifyType(hid_t type);
 
+/// Whether two types hold the same numbers, in whatever order of bytes; for other than numbers, whether they are one.
+bool AreSameButForByteOrder(const StoredType& one, const StoredType& other);
+
 /// Whether a type of whole numbers holds this one.
 bool Holds(const StoredType& type, std::int64_t value);
 

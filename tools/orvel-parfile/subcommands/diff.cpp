@@ -58,7 +58,7 @@ void Diff(const Options& options)
   }
   if (!comparison.differences.empty())
   {
-    throw FaultsAreTold();
+    throw FaultsPrinted();
   }
   if (!options.json)
   {

@@ -2,6 +2,7 @@
 /// How the tool ends.
 #pragma once
 
+#include <exception>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -36,7 +37,7 @@ public:
   explicit FaultyInput(const std::vector<std::string>& faults);
 };
 
-/// Ends the tool with exitFaults after its output has told everything.
-struct FaultsAreTold
+/// What is wrong, or differs, has been printed as data. Ends the tool with exitFaults and without a message.
+class FaultsPrinted : public std::exception
 {
 };
