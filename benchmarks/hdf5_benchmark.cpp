@@ -3,6 +3,7 @@
 #include "OrvelCommands/foundation/parfile_constants.h"
 #include "OrvelCommands/parfile/Gyre_Parfile.h"
 #include "OrvelCommands/storage/ParfileHdf5Storage.h"
+#include "peers/hdf5_handle.h"
 #include "peers/peers.h"
 #include "support/generated_job.h"
 #include "support/job_files.h"
@@ -45,23 +46,35 @@ void LoadWithLibrary(benchmark::State& state)
   }
 }
 
-void LoadWithDemandedCalls(benchmark::State& state)
+void LoadInC(benchmark::State& state, hid_t transfer)
 {
   const std::filesystem::path file = FolderOf(state) / PARFILE_STORAGE_FILE;
   for (auto _ : state)
   {
-    const plain::Job job = plain::ReadWithDemandedCalls(file);
+    const plain::Job job = plain::ReadWithDemandedCalls(file, transfer);
     benchmark::DoNotOptimize(job.dresp.data());
   }
+}
+
+void LoadWithDemandedCalls(benchmark::State& state)
+{
+  LoadInC(state, H5P_DEFAULT);
+}
+
+void LoadWithSmallTransfer(benchmark::State& state)
+{
+  const plain::SmallTransfer transfer;
+  LoadInC(state, transfer);
 }
 
 void ReadEachDatasetOnce(benchmark::State& state)
 {
   const std::filesystem::path file = FolderOf(state) / PARFILE_STORAGE_FILE;
   const auto places = plain::PlacesOf(JobOf(state));
+  const plain::SmallTransfer transfer;
   for (auto _ : state)
   {
-    if (plain::ReadEachDatasetOnce(file, places) != CountValues(JobOf(state)))
+    if (plain::ReadEachDatasetOnce(file, places, transfer) != CountValues(JobOf(state)))
     {
       throw std::runtime_error("the file does not hold the generated job");
     }
@@ -110,7 +123,13 @@ void WriteWithLibrary(benchmark::State& state)
 
 void WriteWithDemandedCalls(benchmark::State& state)
 {
-  WriteJob(state, [](const auto& job) { plain::WriteWithDemandedCalls(PARFILE_STORAGE_FILE, job); });
+  WriteJob(state, [](const auto& job) { plain::WriteWithDemandedCalls(PARFILE_STORAGE_FILE, job, H5P_DEFAULT); });
+}
+
+void WriteWithSmallTransfer(benchmark::State& state)
+{
+  const plain::SmallTransfer transfer;
+  WriteJob(state, [&](const auto& job) { plain::WriteWithDemandedCalls(PARFILE_STORAGE_FILE, job, transfer); });
 }
 
 void EachSize(benchmark::internal::Benchmark* loads)
@@ -124,10 +143,12 @@ void EachSize(benchmark::internal::Benchmark* loads)
 
 BENCHMARK(LoadWithLibrary)->Apply(EachSize);
 BENCHMARK(LoadWithDemandedCalls)->Apply(EachSize);
+BENCHMARK(LoadWithSmallTransfer)->Apply(EachSize);
 BENCHMARK(ReadEachDatasetOnce)->Apply(EachSize);
 BENCHMARK(LoadFromJson)->Apply(EachSize);
-BENCHMARK(WriteWithLibrary)->Arg(250)->Arg(2500)->Unit(benchmark::kMillisecond)->UseRealTime();
-BENCHMARK(WriteWithDemandedCalls)->Arg(250)->Arg(2500)->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(WriteWithLibrary)->Arg(2500)->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(WriteWithDemandedCalls)->Arg(2500)->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(WriteWithSmallTransfer)->Arg(2500)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 }  // namespace
 

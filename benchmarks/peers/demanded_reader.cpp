@@ -40,7 +40,7 @@ Type MakeType(const std::vector<double>*)
 class Reader
 {
 public:
-  explicit Reader(hid_t parfile) : m_parfile(parfile), m_value_space(ValueSpace()) {}
+  Reader(hid_t parfile, hid_t transfer) : m_parfile(parfile), m_transfer(transfer), m_value_space(ValueSpace()) {}
 
   hsize_t CountCommands(const std::string& kind) const
   {
@@ -124,7 +124,7 @@ private:
   {
     const Space space(H5Dget_space(dataset));
     Select(space, position);
-    Checked(H5Dread(dataset, type, m_value_space, space, H5P_DEFAULT, buffer));
+    Checked(H5Dread(dataset, type, m_value_space, space, m_transfer, buffer));
   }
 
   static void Take(const hvl_t& element, std::string& text)
@@ -156,12 +156,13 @@ private:
       return 1;
     };
     hsize_t start = 0;
-    Checked(H5Literate_by_name(m_parfile, kind.c_str(), H5_INDEX_NAME, H5_ITER_INC, &start, leads_to, &search,
-                               H5P_DEFAULT));
+    Checked(
+      H5Literate_by_name(m_parfile, kind.c_str(), H5_INDEX_NAME, H5_ITER_INC, &start, leads_to, &search, H5P_DEFAULT));
     return search.name;
   }
 
   hid_t m_parfile;
+  hid_t m_transfer;
   Space m_value_space;
 };
 
@@ -223,11 +224,11 @@ private:
 
 }  // namespace
 
-Job ReadWithDemandedCalls(const std::filesystem::path& file)
+Job ReadWithDemandedCalls(const std::filesystem::path& file, hid_t transfer)
 {
   const File opened(OpenAsDemanded(file.c_str(), H5F_ACC_RDONLY));
   const Group parfile(H5Gopen2(opened, "/PARFILE", H5P_DEFAULT));
-  const Reader reader(parfile);
+  const Reader reader(parfile, transfer);
   Job job;
   job.ForEachKind([&](const std::string& kind, auto& commands) {
     const hsize_t count = reader.CountCommands(kind);

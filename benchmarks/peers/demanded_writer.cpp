@@ -24,7 +24,7 @@ Type MakeType(VtmType type)
 class Writer
 {
 public:
-  explicit Writer(hid_t parfile) : m_parfile(parfile), m_value_space(ValueSpace()) {}
+  Writer(hid_t parfile, hid_t transfer) : m_parfile(parfile), m_transfer(transfer), m_value_space(ValueSpace()) {}
 
   void AddCommand(const std::string& kind, const std::string& id) const
   {
@@ -66,8 +66,7 @@ private:
     const hsize_t chunk = 1;
     const PropertyList layout(H5Pcreate(H5P_DATASET_CREATE));
     Checked(H5Pset_chunk(layout, 1, &chunk));
-    const Dataset dataset(
-      H5Dcreate2(m_parfile, path.c_str(), type, m_value_space, H5P_DEFAULT, layout, H5P_DEFAULT));
+    const Dataset dataset(H5Dcreate2(m_parfile, path.c_str(), type, m_value_space, H5P_DEFAULT, layout, H5P_DEFAULT));
     Write(dataset, type, 0, value);
   }
 
@@ -88,10 +87,11 @@ private:
   void WriteElement(hid_t dataset, hid_t type, hid_t space, hsize_t position, const void* value) const
   {
     Select(space, position);
-    Checked(H5Dwrite(dataset, type, m_value_space, space, H5P_DEFAULT, value));
+    Checked(H5Dwrite(dataset, type, m_value_space, space, m_transfer, value));
   }
 
   hid_t m_parfile;
+  hid_t m_transfer;
   Space m_value_space;
 };
 
@@ -117,11 +117,11 @@ struct Buffer
 
 }  // namespace
 
-void WriteWithDemandedCalls(const std::filesystem::path& file, const std::vector<JobCommand>& job)
+void WriteWithDemandedCalls(const std::filesystem::path& file, const std::vector<JobCommand>& job, hid_t transfer)
 {
   const File opened(OpenAsDemanded(file.c_str(), H5F_ACC_RDWR));
   const Group parfile(H5Gcreate2(opened, "/PARFILE", H5P_DEFAULT, H5P_DEFAULT, H5P_DEFAULT));
-  const Writer writer(parfile);
+  const Writer writer(parfile, transfer);
   for (const JobCommand& command : job)
   {
     writer.AddCommand(std::string(command.kind->kind), command.id);

@@ -43,6 +43,14 @@ using Space = Handle<H5Sclose>;
 using Type = Handle<H5Tclose>;
 using PropertyList = Handle<H5Pclose>;
 
+/// The transfer of one element with a conversion buffer as small as the library's own. HDF5's default is a megabyte,
+/// which it zeroes at each transfer that converts.
+class SmallTransfer : public PropertyList
+{
+public:
+  SmallTransfer() : PropertyList(H5Pcreate(H5P_DATASET_XFER)) { Checked(H5Pset_buffer(*this, 4096, nullptr, nullptr)); }
+};
+
 /// Opens a file with the chunk cache that the storage's contract demands.
 inline hid_t OpenAsDemanded(const char* path, unsigned flags)
 {

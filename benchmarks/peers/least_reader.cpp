@@ -57,7 +57,8 @@ std::vector<DatasetPlace> PlacesOf(const std::vector<JobCommand>& job)
   return places;
 }
 
-std::size_t ReadEachDatasetOnce(const std::filesystem::path& file, const std::vector<DatasetPlace>& places)
+std::size_t ReadEachDatasetOnce(const std::filesystem::path& file, const std::vector<DatasetPlace>& places,
+                                hid_t transfer)
 {
   const Types types;
   const File opened(H5Fopen(file.c_str(), H5F_ACC_RDONLY, H5P_DEFAULT));
@@ -69,10 +70,10 @@ std::size_t ReadEachDatasetOnce(const std::filesystem::path& file, const std::ve
     const Space space(H5Dget_space(dataset));
     const auto count = static_cast<std::size_t>(Checked(H5Sget_simple_extent_npoints(space)));
     buffer.resize(count);
-    Checked(H5Dread(dataset, types.For(place.type), H5S_ALL, H5S_ALL, H5P_DEFAULT, buffer.data()));
+    Checked(H5Dread(dataset, types.For(place.type), H5S_ALL, H5S_ALL, transfer, buffer.data()));
     if (IsVariableLength(place.type))
     {
-      Checked(H5Dvlen_reclaim(types.For(place.type), space, H5P_DEFAULT, buffer.data()));
+      Checked(H5Dvlen_reclaim(types.For(place.type), space, transfer, buffer.data()));
     }
     values += count;
   }

@@ -1,6 +1,6 @@
 /// \file
-/// The commands of a job as plain structs, as a program would have them that does without the library. A key that may be
-/// absent is an optional, a key of any number of values a vector. One thread at a time.
+/// The commands of a job as plain structs, as a program would have them that does without the library. A key that may
+/// be absent is an optional, a key of any number of values a vector. One thread at a time.
 #pragma once
 
 #include <optional>

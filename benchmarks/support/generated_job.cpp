@@ -137,7 +137,9 @@ private:
   std::size_t PlaceOf(Kind kind, const JobItem& reference) const
   {
     const auto& prototypes = m_prototypes.at(kind);
-    const auto is_target = [&](const JobCommand* command) { return command->id == std::get<std::string>(reference.value); };
+    const auto is_target = [&](const JobCommand* command) {
+      return command->id == std::get<std::string>(reference.value);
+    };
     return std::find_if(prototypes.begin(), prototypes.end(), is_target) - prototypes.begin();
   }
 

@@ -49,8 +49,7 @@ std::vector<JobCommand> ParsedBentDuctJob(std::size_t commands)
 
 void MakeEmptyParameterFile(const std::filesystem::path& folder)
 {
-  const hid_t file =
-    H5Fcreate((folder / PARFILE_STORAGE_FILE).c_str(), H5F_ACC_TRUNC, H5P_DEFAULT, H5P_DEFAULT);
+  const hid_t file = H5Fcreate((folder / PARFILE_STORAGE_FILE).c_str(), H5F_ACC_TRUNC, H5P_DEFAULT, H5P_DEFAULT);
   if (file < 0 || H5Fclose(file) < 0)
   {
     throw std::runtime_error("cannot make a parameter file in " + folder.string());

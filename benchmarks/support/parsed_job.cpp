@@ -54,10 +54,8 @@ const std::map<std::string, ParsedKind>& Kinds()
        {"FILE_", Item::FILE},
        {"CS_REF_", Item::CS}}}},
     {"OPERATOR_",
-     {Cmd::OPERATOR,
-      {{"TYPE_", Item::TYPE}, {"UPDATE_TYPE_", Item::UPDATE_TYPE}, {"UPDATE_ID_", Item::UPDATE_ID}}}},
-    {"OBJ_FUNC_",
-     {Cmd::OBJ_FUNC, {{"TARGET_", Item::TARGET}, {"DRESP_", Item::DRESP}, {"OPERATOR_", Item::DRESP}}}},
+     {Cmd::OPERATOR, {{"TYPE_", Item::TYPE}, {"UPDATE_TYPE_", Item::UPDATE_TYPE}, {"UPDATE_ID_", Item::UPDATE_ID}}}},
+    {"OBJ_FUNC_", {Cmd::OBJ_FUNC, {{"TARGET_", Item::TARGET}, {"DRESP_", Item::DRESP}, {"OPERATOR_", Item::DRESP}}}},
     {"CONSTRAINT_",
      {Cmd::CONSTRAINT,
       {{"TYPE_", Item::TYPE},
@@ -85,8 +83,7 @@ const std::map<std::string, ParsedKind>& Kinds()
     {"OPT_PARAM_", {Cmd::OPT_PARAM, {}}},
     {"STOP_", {Cmd::STOP, {{"ITER_MAX_", Item::ITER_MAX}}}},
     {"MESH_SMOOTH_", {Cmd::MESH_SMOOTH, {{"METHOD_", Item::STRATEGY}}}},
-    {"FILTER_",
-     {Cmd::FILTER, {{"METHOD_", Item::TYPE}, {"RADIUS_", Item::VALUE}, {"ALPHA_", Item::TARGET}}}},
+    {"FILTER_", {Cmd::FILTER, {{"METHOD_", Item::TYPE}, {"RADIUS_", Item::VALUE}, {"ALPHA_", Item::TARGET}}}},
     {"OUTPUT_",
      {Cmd::OUTPUT,
       {{"FILENAME_", Item::FILE},
@@ -107,10 +104,13 @@ const std::map<std::string, ParsedKind>& Kinds()
 }
 
 // What the four kinds over OPT_PARAM read from the one DV_UPDATE_PARAM.
-constexpr ParsedKey kUpdateKeys[] = {
-  {"MIN_", Item::MIN},   {"MAX_", Item::MAX},           {"ALGORITHM_", Item::STRATEGY},
-  {"MOVE_", Item::VALUE}, {"ASYM_MOVE_", Item::UPDATE_TYPE}, {"ASYM_MOVE_LOW_", Item::LOWER},
-  {"ASYM_MOVE_UP_", Item::UPPER}};
+constexpr ParsedKey kUpdateKeys[] = {{"MIN_", Item::MIN},
+                                     {"MAX_", Item::MAX},
+                                     {"ALGORITHM_", Item::STRATEGY},
+                                     {"MOVE_", Item::VALUE},
+                                     {"ASYM_MOVE_", Item::UPDATE_TYPE},
+                                     {"ASYM_MOVE_LOW_", Item::LOWER},
+                                     {"ASYM_MOVE_UP_", Item::UPPER}};
 
 struct GroupFormat
 {
@@ -165,8 +165,9 @@ bool HasParsedForm(const JobCommand& command, const JobKey& key)
     const auto* first = std::find_if(std::begin(kGroupFormats), std::end(kGroupFormats), is_there);
     return first != std::end(kGroupFormats) && first->key == key.field->key;
   }
-  const bool is_operand = kind == "OPERATOR_" && (key.field->type == vtmReference || key.field->key == "DRESP_WEIGHT_" ||
-                                                  key.field->key == "OPERATOR_WEIGHT_");
+  const bool is_operand =
+    kind == "OPERATOR_" &&
+    (key.field->type == vtmReference || key.field->key == "DRESP_WEIGHT_" || key.field->key == "OPERATOR_WEIGHT_");
   const bool is_setting = kind == "ALGO_" && (key.field->key == "DV_" || key.field->key == "PRE_PARAM_" ||
                                               key.field->key.substr(0, 3) == "AS_");
   return is_operand || is_setting || Names(parsed->second.keys, key.field->key);
@@ -256,8 +257,7 @@ private:
 
   static void AddGroup(const JobCommand& command, OrvelCmd& cmd)
   {
-    cmd.AddEnumItem(Item::TYPE,
-                    command.kind->kind == "NODE_GROUP_" ? Item::GROUP_TYPE_NODE : Item::GROUP_TYPE_ELEMENT);
+    cmd.AddEnumItem(Item::TYPE, command.kind->kind == "NODE_GROUP_" ? Item::GROUP_TYPE_NODE : Item::GROUP_TYPE_ELEMENT);
     for (const GroupFormat& format : kGroupFormats)
     {
       if (const JobKey* operands = FindKey(command, format.key))
