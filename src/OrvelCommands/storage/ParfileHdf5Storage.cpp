@@ -66,8 +66,8 @@ void SelectElement(const H5::DataSpace& space, std::size_t position)
   space.selectHyperslab(H5S_SELECT_SET, count, start);
 }
 
-// HDF5 zeroes its conversion buffer at each transfer that converts, a megabyte by default. One element needs no more than
-// this.
+// HDF5 zeroes its conversion buffer at each transfer that converts, a megabyte by default. One element needs no more
+// than this.
 constexpr std::size_t kConversionBufferBytes = 4096;
 
 // Made once, as it costs as much as reading a number, and never closed here: HDF5 closes it as the process ends.
