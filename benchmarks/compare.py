@@ -20,6 +20,7 @@ import measurements
 import sizes
 
 HERE = Path(__file__).resolve().parent
+PARTS = ("load", "write", "parsed")
 NANOSECONDS = {"ns": 1, "us": 1e3, "ms": 1e6, "s": 1e9}
 
 
@@ -125,6 +126,7 @@ def parse_arguments():
     parser.add_argument("--output", type=Path, required=True, help="the JSON file to write")
     parser.add_argument("--rounds", type=int, default=15)
     parser.add_argument("--sizes", type=int, nargs="+", default=measurements.SIZES, help="jobs in files, in commands")
+    parser.add_argument("--parts", nargs="+", choices=PARTS, default=PARTS, help="leave out the others")
     parser.add_argument("--quick", action="store_true", help="one short round with small jobs: shows only that it runs")
     parser.add_argument("--through", type=shlex.split, default=[], help="a command that runs each program")
     return parser.parse_args()
@@ -135,9 +137,11 @@ def main():
     rounds, job_sizes, written, least_seconds = arguments.rounds, arguments.sizes, 2500, 0.1
     if arguments.quick:
         rounds, job_sizes, written, least_seconds = 1, (25,), 250, 0.001
-    file_measurements = [*measurements.file_measurements(job_sizes), *measurements.write_measurements(written)]
-    all_measurements = [*file_measurements, *measurements.parsed_measurements()]
-    ratios = [*measurements.file_ratios(job_sizes), *measurements.write_ratios(written), *measurements.parsed_ratios()]
+    parts = {"load": (measurements.file_measurements(job_sizes), measurements.file_ratios(job_sizes)),
+             "write": (measurements.write_measurements(written), measurements.write_ratios(written)),
+             "parsed": (measurements.parsed_measurements(), measurements.parsed_ratios())}
+    all_measurements = [measurement for part in arguments.parts for measurement in parts[part][0]]
+    ratios = [ratio for part in arguments.parts for ratio in parts[part][1]]
     with tempfile.TemporaryDirectory(prefix="orvel-bench-") as folder:
         programs = Programs(arguments.build / "benchmarks", Path(folder), arguments.through, least_seconds)
         programs.make_jobs(job_sizes)
