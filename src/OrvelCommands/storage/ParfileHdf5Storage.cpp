@@ -5,7 +5,6 @@
 #include <array>
 #include <cstdlib>
 #include <cstring>
-#include <functional>
 #include <type_traits>
 
 using namespace orvel::detail;
@@ -73,12 +72,12 @@ constexpr std::size_t kConversionBufferBytes = 4096;
 // Made once, as it costs as much as reading a number, and never closed here: HDF5 closes it as the process ends.
 const H5::DSetMemXferPropList& ElementTransfer()
 {
-  static const H5::DSetMemXferPropList& transfer = [] {
+  static const H5::DSetMemXferPropList* const transfer = [] {
     auto list = std::make_unique<H5::DSetMemXferPropList>();
     list->setBuffer(kConversionBufferBytes, nullptr, nullptr);
-    return std::ref(*list.release());
+    return list.release();
   }();
-  return transfer;
+  return *transfer;
 }
 
 // One variable-length element as HDF5 gives it. HDF5 takes its memory from malloc and leaves it to the reader.
@@ -334,7 +333,7 @@ H5::DataSet ParfileHdf5Storage::OpenKey(const std::string& command, const std::s
     {
       Fail(absent);
     }
-    return group.openDataSet(key);  // no other than by the whole path, of which the group is already open
+    return group.openDataSet(key);
   });
 }
 
