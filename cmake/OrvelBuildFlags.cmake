@@ -30,4 +30,8 @@ function(orvel_set_library_defaults target)
     VISIBILITY_INLINES_HIDDEN ON
     VERSION ${PROJECT_VERSION}
     SOVERSION ${PROJECT_VERSION_MAJOR})
+  # Lets a library call and inline its own exported functions, as if nobody could put another in their place.
+  if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    target_compile_options(${target} PRIVATE -fno-semantic-interposition)
+  endif()
 endfunction()

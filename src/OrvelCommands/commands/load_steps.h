@@ -27,17 +27,17 @@ public:
   template <class Value>
   void Always(const char* key, VtmType type, Value& value) const
   {
-    m_storage.GetValue(m_command, m_id, key, 1, type, value);
+    ReadValue(Key(key), 1, type, value);
   }
 
   /// Reads a key if the storage has it.
   template <class Value>
   void Optional(const char* key, VtmType type, bool& has, Value& value) const
   {
-    has = m_storage.HasElement(m_command, m_id, key);
+    has = m_storage.HasElement(m_command, m_id, Key(key));
     if (has)
     {
-      Always(key, type, value);
+      ReadValue(m_key, 1, type, value);
     }
   }
 
@@ -45,11 +45,11 @@ public:
   template <class Value>
   void Repeated(const char* key, VtmType type, std::uint64_t& count, std::vector<Value>& values) const
   {
-    count = m_storage.GetNumElements(m_command, m_id, key);
+    count = m_storage.GetNumElements(m_command, m_id, Key(key));
     for (std::uint64_t index = 1; index <= count; ++index)
     {
       Value value{};
-      m_storage.GetValue(m_command, m_id, key, index, type, value);
+      ReadValue(m_key, index, type, value);
       values.push_back(std::move(value));
     }
   }
@@ -58,17 +58,17 @@ public:
   template <class Enumeration>
   void AlwaysEnum(const char* key, Enumeration& value) const
   {
-    value = ReadEnum<Enumeration>(key, 1);
+    value = ReadEnum<Enumeration>(Key(key), 1);
   }
 
   /// Reads an enumerator if the storage has it.
   template <class Enumeration>
   void OptionalEnum(const char* key, bool& has, Enumeration& value) const
   {
-    has = m_storage.HasElement(m_command, m_id, key);
+    has = m_storage.HasElement(m_command, m_id, Key(key));
     if (has)
     {
-      AlwaysEnum(key, value);
+      value = ReadEnum<Enumeration>(m_key, 1);
     }
   }
 
@@ -76,16 +76,25 @@ public:
   template <class Enumeration>
   void RepeatedEnum(const char* key, std::uint64_t& count, std::vector<Enumeration>& values) const
   {
-    count = m_storage.GetNumElements(m_command, m_id, key);
+    count = m_storage.GetNumElements(m_command, m_id, Key(key));
     for (std::uint64_t index = 1; index <= count; ++index)
     {
-      values.push_back(ReadEnum<Enumeration>(key, index));
+      values.push_back(ReadEnum<Enumeration>(m_key, index));
     }
   }
 
 private:
+  // A storage takes the key as a text. One text serves all calls, so that long keys do not cost an allocation for each.
+  const std::string& Key(const char* key) const { return m_key = key; }
+
+  template <class Value>
+  void ReadValue(const std::string& key, std::uint64_t index, VtmType type, Value& value) const
+  {
+    m_storage.GetValue(m_command, m_id, key, index, type, value);
+  }
+
   template <class Enumeration>
-  Enumeration ReadEnum(const char* key, std::uint64_t index) const
+  Enumeration ReadEnum(const std::string& key, std::uint64_t index) const
   {
     int number = 0;
     m_storage.GetEnumValue(m_command, m_id, key, index, vtmEnum, number);
@@ -95,6 +104,7 @@ private:
   const OrvelParfileStorage& m_storage;
   const std::string& m_command;
   const std::string& m_id;
+  mutable std::string m_key;
 };
 
 }  // namespace orvel::detail

@@ -6,6 +6,7 @@
 #include "OrvelCommands/foundation/OrvelParfileStorage.h"
 
 #include <cstdint>
+#include <cstring>
 #include <string>
 #include <vector>
 
@@ -92,13 +93,22 @@ void DeleteCommands(const std::vector<Command*>& list)
   }
 }
 
+/// Whether two ids are the same. The ids of a kind often have one length and begin alike, so the ends are compared
+/// before all bytes are.
+inline bool IsSameId(const std::string& left, const std::string& right)
+{
+  return left.size() == right.size() &&
+         (left.empty() || (left.back() == right.back() && std::memcmp(left.data(), right.data(), left.size()) == 0));
+}
+
 /// The first command with this id, null when there is none.
+/// Cost: one pass over the ids.
 template <class Command>
 Command* FindCommand(const std::vector<Command*>& list, const std::string& id)
 {
   for (Command* command : list)
   {
-    if (command->GetID_NAME_() == id)
+    if (IsSameId(command->GetID_NAME_(), id))
     {
       return command;
     }

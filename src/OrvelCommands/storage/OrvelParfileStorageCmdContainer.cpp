@@ -4,6 +4,7 @@
 #include "OrvelCmdEngine/OrvelCmdReferenceItem.h"
 
 #include <algorithm>
+#include <utility>
 
 using namespace orvel::detail;
 using Defs = OrvelCmdDefs;
@@ -28,31 +29,19 @@ bool PassesFilter(const CommandRecord& record, const OrvelCmd& cmd)
   return OrvelCmd_Util::has_command_enum_with_value(cmd, record.filter_item, record.filter_value);
 }
 
-ItemSequence SequenceOf(const OrvelCmd& cmd, Items::CmdItem item)
+std::vector<const OrvelCmdItem*> FilteredItemsOf(const OrvelCmd& cmd, const ItemMapping& mapping)
 {
-  ItemSequence sequence;
-  const auto& items = cmd.Items(item);
-  sequence.reserve(items.size());
-  for (const auto& one : items)
-  {
-    sequence.push_back(one.get());
-  }
-  return sequence;
-}
-
-ItemSequence FilteredSequenceOf(const OrvelCmd& cmd, const ItemMapping& mapping)
-{
-  ItemSequence sequence;
+  std::vector<const OrvelCmdItem*> chosen;
   const auto& filters = cmd.Items(mapping.filter_item);
   const auto& values = cmd.Items(mapping.value_item);
   for (std::size_t place = 0; place < std::min(filters.size(), values.size()); ++place)
   {
     if (filters[place] != nullptr && values[place] != nullptr && mapping.item_filter(*filters[place]))
     {
-      sequence.push_back(values[place].get());
+      chosen.push_back(values[place].get());
     }
   }
-  return sequence;
+  return chosen;
 }
 
 }  // namespace
@@ -82,18 +71,20 @@ void OrvelParfileStorageCmdContainer::MapIdNamesToPosition()
   for (std::size_t number = 0; number < kNumberOfKinds; ++number)
   {
     const auto kind = static_cast<Cmd>(number);
-    for (std::uint64_t position = 0; position < m_cmd_container->GetNumberOfCommands(kind); ++position)
+    const std::uint64_t count = m_cmd_container->GetNumberOfCommands(kind);
+    m_id_positions[number].Reserve(count);
+    for (std::uint64_t position = 0; position < count; ++position)
     {
       const OrvelCmd& cmd = m_cmd_container->_GetCommand(kind, position);
       if (cmd.HasItem(Items::ID_NAME))
       {
-        m_id_positions[number].emplace(cmd.Item(Items::ID_NAME, 0).AsString(), position);
+        m_id_positions[number].Add(cmd.Item(Items::ID_NAME, 0).AsString(), position);
       }
     }
   }
   if (HasMergedDv(*m_cmd_container))
   {
-    m_id_positions[Defs::OPTIONS].emplace(kMergedDv, m_cmd_container->GetNumberOfCommands(Defs::DV) + 1);
+    m_id_positions[Defs::OPTIONS].Add(kMergedDv, m_cmd_container->GetNumberOfCommands(Defs::DV) + 1);
   }
 }
 
@@ -138,7 +129,8 @@ void OrvelParfileStorageCmdContainer::FilteredName(const CommandRecord& record, 
                                                    std::uint64_t position, std::string& name)
 {
   std::uint64_t passed = 0;
-  for (auto cmd = container.GetCommandBegin(record.kind); cmd != container.GetCommandEnd(record.kind); ++cmd)
+  const auto end = container.GetCommandEnd(record.kind);
+  for (auto cmd = container.GetCommandBegin(record.kind); cmd != end; ++cmd)
   {
     if (*cmd == nullptr || !PassesFilter(record, **cmd))
     {
@@ -170,11 +162,11 @@ void OrvelParfileStorageCmdContainer::MergedDvMembers(const OrvelCmd* cmd, CmdIt
 {
   if (cmd != nullptr)
   {
-    reader(SequenceOf(*cmd, item), item);
+    reader(ItemSequence(cmd->Items(item)), item);
   }
   else if (item == Items::DV && HasMergedDv(container))
   {
-    reader(SequenceOf(FirstOptimize(container), Items::DV), item);
+    reader(ItemSequence(FirstOptimize(container).Items(Items::DV)), item);
   }
 }
 
@@ -191,16 +183,17 @@ void OrvelParfileStorageCmdContainer::OptimizeDvReferences(const OrvelCmd* cmd, 
     OrvelCmd merged(Defs::DV);
     merged.AddStringItem(Items::ID_NAME, kMergedDv);
     const OrvelCmdReferenceItem reference(merged);
-    reader({&reference}, item);
+    const OrvelCmdItem* only = &reference;
+    reader(ItemSequence(only), item);
     return;
   }
-  reader(SequenceOf(*cmd, item), item);
+  reader(ItemSequence(cmd->Items(item)), item);
 }
 
 OrvelCmdDefs::Cmd OrvelParfileStorageCmdContainer::GetCmdType(const std::string& command) const
 {
-  const auto record = m_command_records.find(command);
-  return record != m_command_records.end() ? record->second.kind : Defs::CMD_NONE;
+  const CommandRecord* record = m_command_records.Find(command);
+  return record != nullptr ? record->kind : Defs::CMD_NONE;
 }
 
 const OrvelCmd* OrvelParfileStorageCmdContainer::GetCmdObject(Cmd kind, const std::string& id_name) const
@@ -209,8 +202,8 @@ const OrvelCmd* OrvelParfileStorageCmdContainer::GetCmdObject(Cmd kind, const st
   {
     return nullptr;
   }
-  const auto position = m_id_positions[kind].find(id_name);
-  return position != m_id_positions[kind].end() ? &m_cmd_container->_GetCommand(kind, position->second) : nullptr;
+  const std::uint64_t* position = m_id_positions[kind].Find(id_name);
+  return position != nullptr ? &m_cmd_container->_GetCommand(kind, *position) : nullptr;
 }
 
 const OrvelCmd* OrvelParfileStorageCmdContainer::GetCmdObject(const std::string& command,
@@ -221,79 +214,90 @@ const OrvelCmd* OrvelParfileStorageCmdContainer::GetCmdObject(const std::string&
 
 bool OrvelParfileStorageCmdContainer::ConsiderAsList(const ItemSequence& items, Cmd kind, CmdItem item) const
 {
-  return !items.empty() && items.front() != nullptr && items.front()->IsStringList() &&
-         m_list_items.count({kind, item}) > 0;
+  return m_list_items.count({kind, item}) > 0 && !items.empty() && items[0] != nullptr && items[0]->IsStringList();
 }
 
+template <class Reader>
 void OrvelParfileStorageCmdContainer::ReadItems(const std::string& command, const std::string& id_name,
-                                                const std::string& key, const ItemReader& reader) const
+                                                const std::string& key, const Reader& reader) const
 {
   const Cmd kind = GetCmdType(command);
   if (kind == Defs::CMD_NONE)
   {
     return;
   }
-  const auto found = m_key_mappings[kind].find(key);
-  if (found == m_key_mappings[kind].end())
+  const ItemMapping* mapping = m_key_mappings[kind].Find(key);
+  if (mapping == nullptr)
   {
     return;
   }
-  const ItemMapping& mapping = found->second;
   const OrvelCmd* cmd = GetCmdObject(kind, id_name);
+  if (mapping->mode != ItemMappingMode::DirectItem)
+  {
+    ReadDerivedItems(*mapping, cmd, [&](const ItemSequence& items, CmdItem item) { reader(items, kind, item); });
+  }
+  else if (cmd != nullptr && mapping->predicate(*cmd))
+  {
+    reader(ItemSequence(cmd->Items(mapping->item)), kind, mapping->item);
+  }
+}
+
+void OrvelParfileStorageCmdContainer::ReadDerivedItems(const ItemMapping& mapping, const OrvelCmd* cmd,
+                                                       const ItemReader& reader) const
+{
   switch (mapping.mode)
   {
-    case ItemMappingMode::DirectItem:
-      if (cmd != nullptr && mapping.predicate(*cmd))
-      {
-        reader(SequenceOf(*cmd, mapping.item), mapping.item);
-      }
-      return;
     case ItemMappingMode::FilteredItem:
       if (cmd != nullptr)
       {
-        reader(FilteredSequenceOf(*cmd, mapping), mapping.value_item);
+        reader(ItemSequence(FilteredItemsOf(*cmd, mapping)), mapping.value_item);
       }
       return;
-    case ItemMappingMode::ReferencedItem: ReadReferencedItems(mapping, reader); return;
+    case ItemMappingMode::ReferencedItem:
+      if (const OrvelCmd* target = ReferencedCommand(mapping))
+      {
+        reader(ItemSequence(target->Items(mapping.target_item)), mapping.target_item);
+      }
+      return;
     case ItemMappingMode::CustomItem:
       if (mapping.handler != nullptr)
       {
         mapping.handler(cmd, mapping.item, *m_cmd_container, reader);
       }
       return;
+    case ItemMappingMode::DirectItem: return;  // read by the caller
   }
 }
 
-void OrvelParfileStorageCmdContainer::ReadReferencedItems(const ItemMapping& mapping, const ItemReader& reader) const
+// The command that the first command of the source kind refers to, if it is one that the mapping reads.
+const OrvelCmd* OrvelParfileStorageCmdContainer::ReferencedCommand(const ItemMapping& mapping) const
 {
   if (!m_cmd_container->HasCommand(mapping.source_kind))
   {
-    return;
+    return nullptr;
   }
   const OrvelCmd& source = m_cmd_container->_GetCommand(mapping.source_kind, 0);
   if (!source.HasItem(mapping.source_item) || !source.Item(mapping.source_item, 0).IsReference())
   {
-    return;
+    return nullptr;
   }
   const OrvelCmd* target = source.Item(mapping.source_item, 0).ReferencedCommand();
-  if (target != nullptr && target->GetCmd() == mapping.target_kind && target->HasItem(mapping.target_item))
-  {
-    reader(SequenceOf(*target, mapping.target_item), mapping.target_item);
-  }
+  const bool is_read =
+    target != nullptr && target->GetCmd() == mapping.target_kind && target->HasItem(mapping.target_item);
+  return is_read ? target : nullptr;
 }
 
 template <class Action>
 void OrvelParfileStorageCmdContainer::ReadItem(const std::string& command, const std::string& id_name,
                                                const std::string& key, std::uint64_t index, Action action) const
 {
-  const auto read = [&](const ItemSequence& items, CmdItem item) {
-    const std::uint64_t place = ConsiderAsList(items, GetCmdType(command), item) ? 0 : index - 1;
+  ReadItems(command, id_name, key, [&](const ItemSequence& items, Cmd kind, CmdItem item) {
+    const std::uint64_t place = ConsiderAsList(items, kind, item) ? 0 : index - 1;
     if (place < items.size() && items[place] != nullptr)
     {
       action(*items[place]);
     }
-  };
-  ReadItems(command, id_name, key, std::ref(read));
+  });
 }
 
 bool OrvelParfileStorageCmdContainer::HasCommand(const std::string& /*command*/, const std::string& /*id_name*/) const
@@ -303,9 +307,8 @@ bool OrvelParfileStorageCmdContainer::HasCommand(const std::string& /*command*/,
 
 std::uint64_t OrvelParfileStorageCmdContainer::GetNumCommand(const std::string& command) const
 {
-  const auto record = m_command_records.find(command);
-  const std::uint64_t count =
-    record != m_command_records.end() ? record->second.count(record->second, *m_cmd_container) : 0;
+  const CommandRecord* record = m_command_records.Find(command);
+  const std::uint64_t count = record != nullptr ? record->count(*record, *m_cmd_container) : 0;
   return count == 0 && m_singleton_commands.count(command) > 0 ? 1 : count;
 }
 
@@ -313,8 +316,8 @@ std::uint64_t OrvelParfileStorageCmdContainer::GetNumElements(const std::string&
                                                               const std::string& key) const
 {
   std::uint64_t count = 0;
-  ReadItems(command, id_name, key, [&](const ItemSequence& items, CmdItem item) {
-    count = ConsiderAsList(items, GetCmdType(command), item) ? items.front()->AsStringList().size() : items.size();
+  ReadItems(command, id_name, key, [&](const ItemSequence& items, Cmd kind, CmdItem item) {
+    count = ConsiderAsList(items, kind, item) ? items[0]->AsStringList().size() : items.size();
   });
   return count;
 }
@@ -323,7 +326,7 @@ bool OrvelParfileStorageCmdContainer::HasElement(const std::string& command, con
                                                  const std::string& key) const
 {
   bool has = false;
-  ReadItems(command, id_name, key, [&](const ItemSequence& items, CmdItem) { has = !items.empty(); });
+  ReadItems(command, id_name, key, [&](const ItemSequence& items, Cmd, CmdItem) { has = !items.empty(); });
   return has;
 }
 
@@ -331,10 +334,9 @@ void OrvelParfileStorageCmdContainer::GetCommandName(const std::string& command,
                                                      std::string& id_name) const
 {
   id_name.clear();
-  const auto record = m_command_records.find(command);
-  if (record != m_command_records.end())
+  if (const CommandRecord* record = m_command_records.Find(command))
   {
-    record->second.name_at(record->second, *m_cmd_container, position, id_name);
+    record->name_at(*record, *m_cmd_container, position, id_name);
   }
 }
 
@@ -370,8 +372,16 @@ void OrvelParfileStorageCmdContainer::GetValue(const std::string& command, const
                                                std::string& value) const
 {
   ReadItem(command, id_name, key, index, [&](const OrvelCmdItem& item) {
-    const auto texts = item.IsStringList() ? item.AsStringList() : std::vector<std::string>();
-    value = index - 1 < texts.size() ? texts[index - 1] : item.AsString();
+    if (item.IsStringList())
+    {
+      std::vector<std::string> texts = item.AsStringList();
+      if (index - 1 < texts.size())
+      {
+        value = std::move(texts[index - 1]);
+        return;
+      }
+    }
+    value = item.AsString();
   });
 }
 

@@ -4,6 +4,7 @@
 
 #include "OrvelCommands/foundation/OrvelParfileStorage.h"
 #include "OrvelCommands/storage/item_mapping.h"
+#include "OrvelCommands/storage/name_table.h"
 
 #include <array>
 #include <cstdint>
@@ -130,7 +131,7 @@ private:
   using ItemMapping = orvel::detail::ItemMapping;
   using ItemSequence = orvel::detail::ItemSequence;
   using ItemReader = orvel::detail::ItemReader;
-  using KeyTable = std::unordered_map<std::string, ItemMapping>;
+  using KeyTable = orvel::detail::NameTable<ItemMapping>;
 
   static constexpr std::size_t kNumberOfKinds = OrvelCmdDefs::CMD_NONE;
 
@@ -167,9 +168,13 @@ private:
   const OrvelCmd* GetCmdObject(const std::string& command, const std::string& id_name) const;
   bool ConsiderAsList(const ItemSequence& items, Cmd kind, CmdItem item) const;
 
+  // Hands the items of a key to the reader, with the kind of the command and the kind of item that they are.
+  template <class Reader>
   void ReadItems(const std::string& command, const std::string& id_name, const std::string& key,
-                 const ItemReader& reader) const;
-  void ReadReferencedItems(const ItemMapping& mapping, const ItemReader& reader) const;
+                 const Reader& reader) const;
+  // Those of the keys that are not simply the items of the command.
+  void ReadDerivedItems(const ItemMapping& mapping, const OrvelCmd* cmd, const ItemReader& reader) const;
+  const OrvelCmd* ReferencedCommand(const ItemMapping& mapping) const;
 
   // Hands the one item that an index means to the action; nothing for an index past the end.
   template <class Action>
@@ -180,8 +185,8 @@ private:
   // Part of what a copy carries; nothing fills or reads these two.
   std::unordered_map<std::string, std::uint64_t> m_spare_names;
   std::unordered_map<std::string, std::pair<std::uint64_t, std::uint64_t>> m_spare_name_pairs;
-  std::unordered_map<std::string, CommandRecord> m_command_records;
-  std::array<std::unordered_map<std::string, std::uint64_t>, kNumberOfKinds> m_id_positions;
+  orvel::detail::NameTable<CommandRecord> m_command_records;
+  std::array<orvel::detail::NameTable<std::uint64_t>, kNumberOfKinds> m_id_positions;
   std::array<KeyTable, kNumberOfKinds> m_key_mappings;
   std::set<std::pair<Cmd, CmdItem>> m_list_items;
   std::unordered_set<std::string> m_singleton_commands;

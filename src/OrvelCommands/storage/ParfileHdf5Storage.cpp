@@ -65,6 +65,21 @@ void SelectElement(const H5::DataSpace& space, std::size_t position)
   space.selectHyperslab(H5S_SELECT_SET, count, start);
 }
 
+// HDF5 zeroes its conversion buffer at each transfer that converts, a megabyte by default. One element needs no more
+// than this.
+constexpr std::size_t kConversionBufferBytes = 4096;
+
+// Made once, as it costs as much as reading a number, and never closed here: HDF5 closes it as the process ends.
+const H5::DSetMemXferPropList& ElementTransfer()
+{
+  static const H5::DSetMemXferPropList* const transfer = [] {
+    auto list = std::make_unique<H5::DSetMemXferPropList>();
+    list->setBuffer(kConversionBufferBytes, nullptr, nullptr);
+    return list.release();
+  }();
+  return *transfer;
+}
+
 // One variable-length element as HDF5 gives it. HDF5 takes its memory from malloc and leaves it to the reader.
 struct VariableLength
 {
@@ -313,11 +328,12 @@ H5::DataSet ParfileHdf5Storage::OpenKey(const std::string& command, const std::s
                                         const FailureText& absent, const FailureText& not_reached) const
 {
   return Guarded<H5::Exception>(not_reached, [&] {
-    if (!HasGroupOrSet(m_parfile_group.openGroup(GroupPath(command, id_name)), key))
+    const H5::Group group = m_parfile_group.openGroup(GroupPath(command, id_name));
+    if (!HasGroupOrSet(group, key))
     {
       Fail(absent);
     }
-    return m_parfile_group.openDataSet(DatasetPath(command, id_name, key));
+    return group.openDataSet(key);
   });
 }
 
@@ -558,7 +574,7 @@ void ParfileHdf5Storage::Set(const H5::DataSet& dataset, const H5::DataType& typ
       space = dataset.getSpace();
     }
     SelectElement(space, position);
-    dataset.write(buffer, type, m_value_space, space, H5::DSetMemXferPropList::DEFAULT);
+    dataset.write(buffer, type, m_value_space, space, ElementTransfer());
   });
 }
 
@@ -611,7 +627,7 @@ void ParfileHdf5Storage::Get(const H5::DataSet& dataset, const H5::DataType& typ
     const H5::DataSpace space = dataset.getSpace();
     RequireRankOne(space);
     SelectElement(space, position);
-    dataset.read(buffer, type, m_value_space, space, H5::DSetMemXferPropList::DEFAULT);
+    dataset.read(buffer, type, m_value_space, space, ElementTransfer());
   });
 }
 

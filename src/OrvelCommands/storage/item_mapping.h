@@ -6,6 +6,7 @@
 #include "OrvelCmdEngine/OrvelCmd.h"
 #include "OrvelCmdEngine/OrvelCmdContainer.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <string>
@@ -14,8 +15,33 @@
 namespace orvel::detail
 {
 
-/// The items that a key stands for. Not owned, valid during one operation.
-using ItemSequence = std::vector<const OrvelCmdItem*>;
+/// The items that a key stands for: all of one kind of a command, or pointers to chosen ones. Not owned, valid during
+/// one operation; nothing is copied, as a read of one value of a long key would copy them all.
+class ItemSequence
+{
+public:
+  explicit ItemSequence(const OrvelCmd::ItemList& items) : m_items(items.data()), m_size(items.size()) {}
+  explicit ItemSequence(const std::vector<const OrvelCmdItem*>& chosen) : m_chosen(chosen.data()), m_size(chosen.size())
+  {
+  }
+
+  /// A sequence of one; the pointer must outlive it.
+  explicit ItemSequence(const OrvelCmdItem* const& only) : m_chosen(&only), m_size(1) {}
+
+  std::size_t size() const { return m_size; }
+  bool empty() const { return m_size == 0; }
+
+  /// Counted from 0; may be null.
+  const OrvelCmdItem* operator[](std::size_t place) const
+  {
+    return m_items != nullptr ? m_items[place].get() : m_chosen[place];
+  }
+
+private:
+  const OrvelCmd::ItemList::value_type* m_items = nullptr;
+  const OrvelCmdItem* const* m_chosen = nullptr;
+  std::size_t m_size;
+};
 
 /// Takes the items of a key and the kind of item that they are.
 using ItemReader = std::function<void(const ItemSequence&, OrvelCmdItemDefs::CmdItem)>;

@@ -17,16 +17,6 @@ OrvelCmd::OrvelCmd(OrvelCmdDefs::Cmd kind) : m_kind(kind), m_self(this, [](const
 
 OrvelCmd::~OrvelCmd() = default;
 
-OrvelCmdDefs::Cmd OrvelCmd::GetCmd() const noexcept
-{
-  return m_kind;
-}
-
-bool OrvelCmd::HasItem(OrvelCmdItemDefs::CmdItem item) const
-{
-  return !Items(item).empty();
-}
-
 const OrvelCmdItem& OrvelCmd::Item(OrvelCmdItemDefs::CmdItem item, std::uint64_t position) const
 {
   const ItemList& items = Items(item);
@@ -39,11 +29,10 @@ const OrvelCmdItem& OrvelCmd::Item(OrvelCmdItemDefs::CmdItem item, std::uint64_t
   return *items[position];
 }
 
-const OrvelCmd::ItemList& OrvelCmd::Items(OrvelCmdItemDefs::CmdItem item) const
+const OrvelCmd::ItemList& OrvelCmd::NoItems() noexcept
 {
   static const ItemList no_items;
-  const auto found = m_items.find(item);
-  return found == m_items.end() ? no_items : found->second;
+  return no_items;
 }
 
 void OrvelCmd::AddStringItem(OrvelCmdItemDefs::CmdItem item, const std::string& value)
@@ -92,5 +81,9 @@ void OrvelCmd::AddItem(std::unique_ptr<const OrvelCmdItem> item)
   {
     throw OrvelCmdItemError(OrvelCmdItemDefs::GetItemName(kind) + " is no kind of item.");
   }
-  m_items[kind].push_back(std::move(item));
+  if (m_items[kind] == nullptr)
+  {
+    m_items[kind] = std::make_unique<ItemList>();
+  }
+  m_items[kind]->push_back(std::move(item));
 }

@@ -3,8 +3,8 @@
 /// Thread safety: the const operations may be called from several threads at once while nobody adds an item.
 #pragma once
 
+#include <array>
 #include <cstdint>
-#include <map>
 #include <memory>
 #include <set>
 #include <string>
@@ -32,10 +32,10 @@ public:
   ~OrvelCmd();
 
   /// Returns: the kind of the command.
-  OrvelCmdDefs::Cmd GetCmd() const noexcept;
+  OrvelCmdDefs::Cmd GetCmd() const noexcept { return m_kind; }
 
   /// Returns: whether the command holds an item of the kind.
-  bool HasItem(OrvelCmdItemDefs::CmdItem item) const;
+  bool HasItem(OrvelCmdItemDefs::CmdItem item) const { return !Items(item).empty(); }
 
   /// Gives the item of the kind at a position that counts from 0.
   ///
@@ -46,7 +46,11 @@ public:
   /// none.
   ///
   /// Ownership: the items stay with the command; adding an item of this kind ends the sequence's iterators.
-  const ItemList& Items(OrvelCmdItemDefs::CmdItem item) const;
+  const ItemList& Items(OrvelCmdItemDefs::CmdItem item) const
+  {
+    const bool is_kind = item >= 0 && item < OrvelCmdItemDefs::ITEM_NONE;
+    return is_kind && m_items[item] != nullptr ? *m_items[item] : NoItems();
+  }
 
   /// \name Adding an item behind those of its kind
   /// @{
@@ -70,10 +74,11 @@ public:
 private:
   friend class OrvelCmdReferenceItem;
 
+  static const ItemList& NoItems() noexcept;
   void AddItem(std::unique_ptr<const OrvelCmdItem> item);
 
   OrvelCmdDefs::Cmd m_kind;
   // Owns nothing: references watch it to learn that the command has ended.
   std::shared_ptr<const OrvelCmd> m_self;
-  std::map<OrvelCmdItemDefs::CmdItem, ItemList> m_items;
+  std::array<std::unique_ptr<ItemList>, OrvelCmdItemDefs::ITEM_NONE> m_items;  // null where there is none of the kind
 };

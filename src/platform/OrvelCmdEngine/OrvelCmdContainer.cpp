@@ -5,18 +5,6 @@
 
 #include "OrvelUtilities/KLV_MESSAGE.h"
 
-namespace
-{
-
-// A number that is no kind has the place behind those of the kinds.
-std::size_t PlaceOf(OrvelCmdDefs::Cmd kind)
-{
-  const bool is_kind = kind >= 0 && kind < OrvelCmdDefs::CMD_NONE;
-  return static_cast<std::size_t>(is_kind ? kind : OrvelCmdDefs::CMD_NONE);
-}
-
-}  // namespace
-
 OrvelCmdContainer::OrvelCmdContainer()
 {
   for (std::size_t place = 0; place <= number_of_kinds; ++place)
@@ -68,13 +56,6 @@ OrvelCmdContainer::const_iterator OrvelCmdContainer::GetCommandBegin(OrvelCmdDef
 OrvelCmdContainer::const_iterator OrvelCmdContainer::GetCommandEnd(OrvelCmdDefs::Cmd kind) const
 {
   return Commands(kind).end();
-}
-
-OrvelCmd& OrvelCmdContainer::_GetCommand(OrvelCmdDefs::Cmd kind, std::uint64_t position) const
-{
-  const CmdList& commands = Commands(kind);
-  const bool is_command = position < commands.size() && commands[position] != nullptr;
-  return is_command ? *commands[position] : *m_empty_commands[PlaceOf(kind)];
 }
 
 const OrvelCmdContainer::CmdList& OrvelCmdContainer::Commands(OrvelCmdDefs::Cmd kind) const

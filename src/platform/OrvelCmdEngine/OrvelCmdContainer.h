@@ -66,7 +66,20 @@ private:
 
   // The command at the position; where there is none or a null entry, an empty command of the kind, the same
   // one for all such positions of this container. Nobody adds items to that one.
-  OrvelCmd& _GetCommand(OrvelCmdDefs::Cmd kind, std::uint64_t position) const;
+  OrvelCmd& _GetCommand(OrvelCmdDefs::Cmd kind, std::uint64_t position) const
+  {
+    const std::size_t place = PlaceOf(kind);
+    const bool is_command =
+      place < number_of_kinds && position < m_commands[place].size() && m_commands[place][position] != nullptr;
+    return is_command ? *m_commands[place][position] : *m_empty_commands[place];
+  }
+
+  // A number that is no kind has the place behind those of the kinds.
+  static std::size_t PlaceOf(OrvelCmdDefs::Cmd kind)
+  {
+    const bool is_kind = kind >= 0 && kind < OrvelCmdDefs::CMD_NONE;
+    return static_cast<std::size_t>(is_kind ? kind : OrvelCmdDefs::CMD_NONE);
+  }
 
   const CmdList& Commands(OrvelCmdDefs::Cmd kind) const;
 

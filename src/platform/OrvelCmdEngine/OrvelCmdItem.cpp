@@ -84,11 +84,6 @@ OrvelCmdItemDefs::CmdItem OrvelCmdItem::GetItem() const noexcept
   return m_item;
 }
 
-OrvelCmdItem::ValueType OrvelCmdItem::GetValueType() const noexcept
-{
-  return m_type;
-}
-
 void OrvelCmdItem::ThrowNotReadableAs(ValueType wanted) const
 {
   throw OrvelCmdItemError(KLV_MESSAGE("Item %s holds %s (%s) and cannot be read as %s.",

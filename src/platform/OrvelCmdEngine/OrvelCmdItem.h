@@ -83,7 +83,7 @@ public:
   OrvelCmdItemDefs::CmdItem GetItem() const noexcept;
 
   /// Returns: what the item holds, without a conversion.
-  ValueType GetValueType() const noexcept;
+  ValueType GetValueType() const noexcept { return m_type; }
 
 protected:
   /// For the classes that hold the values.

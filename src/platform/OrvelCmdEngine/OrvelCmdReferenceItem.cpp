@@ -3,7 +3,7 @@
 #include "OrvelCmdEngine/OrvelCmd.h"
 
 OrvelCmdReferenceItem::OrvelCmdReferenceItem(const OrvelCmd& command, OrvelCmdItemDefs::CmdItem item)
-  : OrvelCmdItem(item, ValueType::Reference), m_command(command.m_self)
+  : OrvelCmdItem(item, ValueType::Reference), m_command(&command), m_life(command.m_self)
 {
 }
 
@@ -26,5 +26,5 @@ bool OrvelCmdReferenceItem::IsReference() const
 
 const OrvelCmd* OrvelCmdReferenceItem::ReferencedCommand() const
 {
-  return m_command.lock().get();
+  return m_life.expired() ? nullptr : m_command;
 }

@@ -26,5 +26,6 @@ public:
   const OrvelCmd* ReferencedCommand() const override;
 
 private:
-  std::weak_ptr<const OrvelCmd> m_command;
+  const OrvelCmd* m_command;
+  std::weak_ptr<const OrvelCmd> m_life;  // tells whether the command is still there, without counting a reader
 };
