@@ -3,6 +3,8 @@ include_guard(GLOBAL)
 
 option(ORVEL_WARNINGS_AS_ERRORS "Treat compiler warnings in our own code as errors" OFF)
 set(ORVEL_SANITIZE "" CACHE STRING "Sanitizers for our own targets, such as address,undefined or thread")
+option(ORVEL_COVERAGE "Count the lines and branches that run" OFF)
+option(ORVEL_FUZZ "Build the fuzzers; needs clang" OFF)
 
 add_library(orvel_build_flags INTERFACE)
 if(NOT MSVC)
@@ -15,6 +17,14 @@ if(ORVEL_SANITIZE)
   set(sanitize_flags -fsanitize=${ORVEL_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
   target_compile_options(orvel_build_flags INTERFACE ${sanitize_flags})
   target_link_options(orvel_build_flags INTERFACE ${sanitize_flags})
+endif()
+
+if(ORVEL_COVERAGE)
+  target_compile_options(orvel_build_flags INTERFACE --coverage)
+  target_link_options(orvel_build_flags INTERFACE --coverage)
+endif()
+if(ORVEL_FUZZ)
+  target_compile_options(orvel_build_flags INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 
 function(orvel_set_target_defaults target)

@@ -23,9 +23,25 @@ std::array<const void*, kCapacity> s_freed;
 std::size_t s_num_freed = 0;
 bool s_watching = false;
 bool s_overflowed = false;
+std::size_t s_until_failure = 0;  // 0 for none to come
+bool s_has_failed = false;
+
+bool IsToFail()
+{
+  if (!s_watching || s_until_failure == 0 || --s_until_failure != 0)
+  {
+    return false;
+  }
+  s_has_failed = true;
+  return true;
+}
 
 void* Allocate(std::size_t size) noexcept
 {
+  if (IsToFail())
+  {
+    return nullptr;
+  }
   void* block = std::malloc(std::max<std::size_t>(size, 1));
   if (s_watching && block != nullptr)
   {
@@ -58,11 +74,15 @@ void Free(void* block) noexcept
     {
       s_freed[s_num_freed++] = block;
     }
-    Block* const end = s_living.data() + s_num_living;
-    Block* const found = std::find_if(s_living.data(), end, [&](const Block& one) { return one.address == block; });
-    if (found != end)
+    // Most blocks live for a short time, so the last ones are looked at first.
+    std::size_t place = s_num_living;
+    while (place > 0 && s_living[place - 1].address != block)
     {
-      std::copy(found + 1, end, found);
+      --place;
+    }
+    if (place > 0)
+    {
+      std::copy(s_living.data() + place, s_living.data() + s_num_living, s_living.data() + place - 1);
       --s_num_living;
     }
   }
@@ -92,12 +112,24 @@ HeapWatch::HeapWatch()
   s_num_living = 0;
   s_num_freed = 0;
   s_overflowed = false;
+  s_until_failure = 0;
+  s_has_failed = false;
   s_watching = true;
 }
 
 HeapWatch::~HeapWatch()
 {
   s_watching = false;
+}
+
+void HeapWatch::FailAllocation(std::size_t number)
+{
+  s_until_failure = number;
+}
+
+bool HeapWatch::HasFailed() const
+{
+  return s_has_failed;
 }
 
 std::vector<std::size_t> HeapWatch::SizesLeft() const

@@ -16,6 +16,12 @@ public:
   HeapWatch(const HeapWatch&) = delete;
   HeapWatch& operator=(const HeapWatch&) = delete;
 
+  /// Makes one of the coming allocations fail, the next for 1. The others are carried out.
+  void FailAllocation(std::size_t number);
+
+  /// Whether the allocation that was to fail has done so.
+  bool HasFailed() const;
+
   /// The sizes of the blocks that were allocated since the watch began and are not freed yet, in that order.
   std::vector<std::size_t> SizesLeft() const;
 

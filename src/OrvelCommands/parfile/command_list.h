@@ -7,6 +7,7 @@
 
 #include <cstdint>
 #include <cstring>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -37,7 +38,9 @@ void LoadOneCommand(const OrvelParfileStorage& storage, std::uint64_t position, 
   std::string name;
   storage.GetCommandName(Command::s_type, position, name);
   command->Load(storage, name);
+  std::unique_ptr<Command> loaded(command);
   list.push_back(command);
+  loaded.release();
 }
 
 /// Loads all commands of a kind, in the storage's order.

@@ -152,6 +152,12 @@ void RequireMovable(VtmType type, const FailureText& failure)
   }
 }
 
+// HDF5 writes a value as its dataset is closed. A destructor would keep to itself that there was no room for it.
+void CloseWritten(H5::DataSet& dataset)
+{
+  Guarded<H5::DataSetIException>(hdf5_failures::kWriteElement, [&] { dataset.close(); });
+}
+
 // The name of the link in a kind's group that leads to the object, if there is one: one pass that opens no member.
 bool FindLinkTo(const H5::Group& parfile, const std::string& kind, hobj_ref_t object, std::string& name)
 {
@@ -354,7 +360,7 @@ template <class Value>
 void ParfileHdf5Storage::OverwriteValue(const std::string& command, const std::string& id_name, const std::string& key,
                                         int index, VtmType type, const Value& value) const
 {
-  const H5::DataSet dataset = OpenKey(command, id_name, key, hdf5_failures::kSetAbsent, hdf5_failures::kSetNotReached);
+  H5::DataSet dataset = OpenKey(command, id_name, key, hdf5_failures::kSetAbsent, hdf5_failures::kSetNotReached);
   const auto data_type = Guarded<H5::Exception>(hdf5_failures::kSetNotReached, [&] { return MakeDataType(type); });
   if (data_type != nullptr)
   {
@@ -362,6 +368,7 @@ void ParfileHdf5Storage::OverwriteValue(const std::string& command, const std::s
     // In 32 bits, as the index is, and widened with its sign.
     const auto position = static_cast<std::int32_t>(static_cast<std::uint32_t>(index) - 1U);
     Set(dataset, *data_type, static_cast<std::size_t>(position), value);
+    CloseWritten(dataset);
   }
 }
 
@@ -375,12 +382,13 @@ void ParfileHdf5Storage::AppendValue(const std::string& command, const std::stri
     return;
   }
   std::size_t position = 0;
-  const H5::DataSet dataset = Guarded<H5::Exception>(hdf5_failures::kAddNotReached, [&] {
+  H5::DataSet dataset = Guarded<H5::Exception>(hdf5_failures::kAddNotReached, [&] {
     const H5::Group group = m_parfile_group.openGroup(GroupPath(command, id_name));
     RequireMovable<Value>(type, hdf5_failures::kWriteElement);  // before a key is made for nothing
     return OpenForAppend(group, key, *data_type, position);
   });
   Set(dataset, *data_type, position, value);
+  CloseWritten(dataset);
 }
 
 void ParfileHdf5Storage::GetValue(const std::string& command, const std::string& id_name, const std::string& key,
@@ -554,11 +562,12 @@ void ParfileHdf5Storage::AddReference(const std::string& command, const std::str
     Fail(hdf5_failures::kReference, {error.getCDetailMsg()});
   }
   std::size_t position = 0;
-  const H5::DataSet dataset = Guarded<H5::Exception>(hdf5_failures::kReference, [&] {
+  H5::DataSet dataset = Guarded<H5::Exception>(hdf5_failures::kReference, [&] {
     return OpenForAppend(m_parfile_group.openGroup(GroupPath(command, id_name)), key, H5::PredType::STD_REF_OBJ,
                          position);
   });
   Set(dataset, H5::PredType::STD_REF_OBJ, position, &reference);
+  CloseWritten(dataset);
 }
 
 void ParfileHdf5Storage::Set(const H5::DataSet& dataset, const H5::DataType& type, std::size_t position,

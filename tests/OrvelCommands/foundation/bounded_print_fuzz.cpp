@@ -1,7 +1,5 @@
 /// \file
-/// Looks for formats that the bounded print cannot carry out. Built by hand with a compiler that has libFuzzer:
-///   clang++ -std=c++17 -g -O1 -fsanitize=fuzzer,address,undefined -I src -I tests
-///     tests/OrvelCommands/foundation/bounded_print_fuzz.cpp src/OrvelCommands/foundation/bounded_print.cpp
+/// Looks for formats that the bounded print cannot carry out. `./run fuzz` runs it.
 #include "OrvelCommands/foundation/bounded_print_check.h"
 
 #include <cstdio>

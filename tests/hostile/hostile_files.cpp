@@ -1,0 +1,381 @@
+// Runs the library on many hostile parameter files, each case in a process that may die of it.
+//
+//   hostile_files structured|mutated <first case> <number of cases> --reference <reference_reader> [options]
+//
+// Every case depends on its number alone. When the library crashes, hangs, wants too much memory or throws what it must
+// not, the case is made again and run alone, and the reference reader, which has none of our code, gets the same file.
+// Only where it ends in the same way is the case HDF5's. Ends with 0 when there is no other case.
+#include "hostile/case_file.h"
+#include "hostile/exercise.h"
+#include "hostile/Supervised.h"
+#include "support/TemporaryFolder.h"
+
+#include "OrvelUtilities/KLV_LogMacros.h"
+
+#include <CLI/CLI.hpp>
+#include <H5Cpp.h>
+#include <malloc.h>
+#include <sys/mman.h>
+
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+#include <map>
+
+namespace
+{
+
+constexpr const char* kFile = "parfile_storage.hdf5";
+
+// A process works through so many cases at most.
+constexpr std::uint64_t kBatch = 250;
+
+// Of the cases that hang and of those that declare too many values, so many get all the time there is.
+constexpr std::uint64_t kPatientCases = 5;
+
+struct Options
+{
+  bool mutated = false;
+  std::uint64_t first = 0;
+  std::uint64_t count = 0;
+  std::string reference;
+  std::string tool;
+  std::uint64_t tool_every = 0;
+  std::string keep;
+};
+
+// What the working process tells the one that watches it.
+struct Progress
+{
+  std::uint64_t current;
+  std::uint64_t not_made;
+  Ends ends;
+  std::uint64_t too_many;
+  std::uint64_t last_too_many;
+};
+
+Progress& Shared()
+{
+  static auto* progress =
+    static_cast<Progress*>(mmap(nullptr, sizeof(Progress), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0));
+  return *progress;
+}
+
+}  // namespace
+
+// Takes the place of the system's function: a case ends in many failures, and the backtrace that each takes along would
+// be half of all the work.
+extern "C" int backtrace(void**, int)
+{
+  return 0;
+}
+
+namespace
+{
+
+void FillFreshMemory()
+{
+  mallopt(M_PERTURB, 165);
+  H5set_free_list_limits(0, 0, 0, 0, 0, 0);
+}
+
+class Campaign
+{
+public:
+  explicit Campaign(const Options& options) : m_options(options), m_folder(std::filesystem::current_path().string())
+  {
+    if (options.mutated)
+    {
+      m_sound_files = SoundFiles(kFile);
+    }
+  }
+
+  int Run()
+  {
+    const std::uint64_t end = m_options.first + m_options.count;
+    for (std::uint64_t next = m_options.first; next < end;)
+    {
+      next = RunBatch(next, std::min(end, next + kBatch));
+    }
+    Report();
+    return m_faults == 0 ? 0 : 1;
+  }
+
+private:
+  // The number of the case to go on with.
+  std::uint64_t RunBatch(std::uint64_t first, std::uint64_t end)
+  {
+    const std::uint64_t too_many_before = Shared().too_many;
+    const Outcome outcome = RunSupervised([&] { WorkThrough(first, end); }, Limit::Quick);
+    std::uint64_t next = end;
+    if (outcome.end != End::Well)
+    {
+      next = Shared().current + 1;
+      Judge(Shared().current, first, outcome.end);
+    }
+    if (Shared().too_many != too_many_before && m_patient_cases < kPatientCases)
+    {
+      ++m_patient_cases;
+      JudgeFully(Shared().last_too_many);
+    }
+    RunTool(first);
+    return next;
+  }
+
+  void WorkThrough(std::uint64_t first, std::uint64_t end)
+  {
+    for (std::uint64_t number = first; number < end; ++number)
+    {
+      Shared().current = number;
+      SignOfLife(Limit::Quick);
+      if (Make(number))
+      {
+        SignOfLife(Limit::Quick);
+        Exercise(number);
+      }
+    }
+  }
+
+  bool Make(std::uint64_t number)
+  {
+    std::filesystem::remove(kFile);  // a new file, which HDF5 cannot take for one that it still has open
+    try
+    {
+      if (m_options.mutated)
+      {
+        WriteMutatedCase(kFile, m_sound_files, number);
+      }
+      else
+      {
+        WriteStructuredCase(kFile, number);
+      }
+      return true;
+    }
+    catch (const std::runtime_error&)
+    {
+      ++Shared().not_made;
+      return false;
+    }
+  }
+
+  static void Exercise(std::uint64_t number)
+  {
+    try
+    {
+      const Ends ends = ExerciseFile(number, false);
+      Shared().ends.good += ends.good;
+      Shared().ends.failures += ends.failures;
+      Shared().ends.binding_failures += ends.binding_failures;
+    }
+    catch (const TooManyValues&)
+    {
+      ++Shared().too_many;
+      Shared().last_too_many = number;
+    }
+  }
+
+  bool MakeAlone(std::uint64_t number)
+  {
+    if (RunSupervised([&] { Make(number); }, Limit::Full).end == End::Well)
+    {
+      return true;
+    }
+    ++m_broken_makers;
+    return false;
+  }
+
+  void Judge(std::uint64_t number, std::uint64_t first_of_batch, End end)
+  {
+    if (!MakeAlone(number))
+    {
+      return;
+    }
+    if (end == End::Hang && m_patient_hangs >= kPatientCases)
+    {
+      if (RunReference(End::Hang, {m_folder}, Limit::Quick).end == End::Hang)
+      {
+        ++m_quick_hangs;
+        return;
+      }
+    }
+    if (RunAlone(number).end != End::Well)
+    {
+      m_patient_hangs += end == End::Hang ? 1 : 0;
+      JudgeFully(number);
+    }
+    else if (end == End::Hang)
+    {
+      ++m_slow;  // beyond the quick limit and within the full one
+    }
+    else
+    {
+      JudgeInCompany(number, first_of_batch, end);
+    }
+  }
+
+  // With fresh memory filled, when the first attempt ends well.
+  static Outcome RunAlone(std::uint64_t number)
+  {
+    const Outcome outcome = RunSupervised([&] { ExerciseFile(number, true); }, Limit::Full);
+    return outcome.end != End::Well ? outcome
+                                    : RunSupervised(
+                                        [&] {
+                                          FillFreshMemory();
+                                          ExerciseFile(number, true);
+                                        },
+                                        Limit::Full);
+  }
+
+  Outcome RunReference(End expected, const std::vector<std::string>& folders, Limit limit) const
+  {
+    const Outcome outcome = RunProgram(m_options.reference, folders, 0, limit);
+    if (outcome.end == expected)
+    {
+      return outcome;
+    }
+    std::vector<std::string> arguments{"--fill"};
+    arguments.insert(arguments.end(), folders.begin(), folders.end());
+    return RunProgram(m_options.reference, arguments, 0, limit);
+  }
+
+  void JudgeFully(std::uint64_t number)
+  {
+    if (MakeAlone(number))
+    {
+      const Outcome alone = RunAlone(number);
+      Compare(number, "", alone, RunReference(alone.end, {m_folder}, Limit::Full));
+    }
+  }
+
+  // HDF5 may have spoiled its own memory in an earlier case of the same process.
+  void JudgeInCompany(std::uint64_t number, std::uint64_t first_of_batch, End end)
+  {
+    std::vector<std::string> folders;
+    for (std::uint64_t one = first_of_batch; one <= number; ++one)
+    {
+      folders.push_back(m_folder + "/" + std::to_string(one));
+      if (MakeAlone(one))
+      {
+        std::filesystem::create_directory(folders.back());
+        std::filesystem::rename(kFile, std::filesystem::path(folders.back()) / kFile);
+      }
+    }
+    std::filesystem::copy_file(std::filesystem::path(folders.back()) / kFile, kFile);
+    Compare(number, " after the cases from " + std::to_string(first_of_batch), {end, ""},
+            RunReference(end, folders, Limit::Full));
+    for (const std::string& folder : folders)
+    {
+      std::filesystem::remove_all(folder);
+    }
+  }
+
+  void Compare(std::uint64_t number, const std::string& company, const Outcome& ours, const Outcome& reference)
+  {
+    const bool same = reference.end == ours.end;
+    ++(same ? m_ends_of_hdf5[ours.end] : m_faults);
+    std::cout << "case " << number << ": " << NameOf(ours.end) << company << " (" << ours.detail << "); HDF5 alone "
+              << NameOf(reference.end) << " (" << reference.detail << ")" << (same ? "" : ": FAULT") << std::endl;
+    Keep(number);
+  }
+
+  void Keep(std::uint64_t number) const
+  {
+    if (!m_options.keep.empty())
+    {
+      const std::filesystem::path folder = std::filesystem::path(m_options.keep) /
+                                           ((m_options.mutated ? "mutated_" : "structured_") + std::to_string(number));
+      std::filesystem::create_directories(folder);
+      std::filesystem::copy_file(kFile, folder / kFile, std::filesystem::copy_options::overwrite_existing);
+    }
+  }
+
+  // The tool as a process, on one case now and then.
+  void RunTool(std::uint64_t number)
+  {
+    if (m_options.tool_every == 0 || number % m_options.tool_every >= kBatch)
+    {
+      return;
+    }
+    if (!MakeAlone(number) || !std::filesystem::exists(kFile))
+    {
+      return;
+    }
+    for (const char* subcommand : {"check", "show"})
+    {
+      for (const char* job : {"gyre", "smooth"})
+      {
+        ++m_tool_runs;
+        const Outcome tool = RunProgram(m_options.tool, {subcommand, ".", "--job", job}, 2, Limit::Full);
+        if (tool.end != End::Well && RunReference(tool.end, {m_folder}, Limit::Full).end != tool.end)
+        {
+          ++m_faults;
+          std::cout << "case " << number << ": the tool's " << subcommand << " " << NameOf(tool.end) << " ("
+                    << tool.detail << "): FAULT" << std::endl;
+          Keep(number);
+        }
+      }
+    }
+  }
+
+  void Report() const
+  {
+    const Progress& progress = Shared();
+    std::cout << (m_options.mutated ? "mutated" : "structured") << " cases from " << m_options.first << ": "
+              << m_options.count << "\n"
+              << "  operations that ended well: " << progress.ends.good << "\n"
+              << "  with a failure of the library: " << progress.ends.failures << "\n"
+              << "  with an exception of HDF5's binding: " << progress.ends.binding_failures << "\n"
+              << "  cases that HDF5 could not write: " << progress.not_made + m_broken_makers << "\n"
+              << "  cases left at a key of more than " << kPatience << " values: " << progress.too_many << "\n"
+              << "  runs of the tool: " << m_tool_runs << "\n";
+    for (const auto& [end, number] : m_ends_of_hdf5)
+    {
+      std::cout << "  cases in which the library and HDF5 alone both end so: " << NameOf(end) << ": " << number << "\n";
+    }
+    std::cout << "  cases stopped in both after " << kQuickMilliseconds
+              << " milliseconds of processor time: " << m_quick_hangs << "\n"
+              << "  cases that took longer than that and ended: " << m_slow << "\n"
+              << "  faults of the library: " << m_faults << std::endl;
+  }
+
+  Options m_options;
+  std::string m_folder;
+  std::vector<std::string> m_sound_files;
+  std::map<End, std::uint64_t> m_ends_of_hdf5;
+  std::uint64_t m_faults = 0;
+  std::uint64_t m_broken_makers = 0;
+  std::uint64_t m_patient_cases = 0;
+  std::uint64_t m_patient_hangs = 0;
+  std::uint64_t m_quick_hangs = 0;
+  std::uint64_t m_slow = 0;
+  std::uint64_t m_tool_runs = 0;
+};
+
+}  // namespace
+
+int main(int argc, char** argv)
+{
+  Options options;
+  std::string family;
+  CLI::App app("Runs the library on many hostile parameter files.");
+  app.add_option("family", family)->required()->check(CLI::IsMember({"structured", "mutated"}));
+  app.add_option("first", options.first)->required();
+  app.add_option("count", options.count)->required();
+  app.add_option("--reference", options.reference, "The reference reader")->required()->check(CLI::ExistingFile);
+  app.add_option("--tool", options.tool, "orvel-parfile, to be run on some cases too")->check(CLI::ExistingFile);
+  app.add_option("--tool-every", options.tool_every, "Run the tool on one of so many cases");
+  app.add_option("--keep", options.keep, "The folder that keeps the files of the cases that are reported");
+  CLI11_PARSE(app, argc, argv);
+  options.mutated = family == "mutated";
+  for (std::string* path : {&options.reference, &options.tool, &options.keep})
+  {
+    *path = path->empty() ? "" : std::filesystem::absolute(*path).string();
+  }
+  // One case asks for much the same memory as the next: giving it back to the system in between takes most of the time.
+  mallopt(M_TRIM_THRESHOLD, 1 << 28);
+  mallopt(M_MMAP_THRESHOLD, 1 << 26);
+  H5::Exception::dontPrint();
+  KLV_LogMacros::SetSink([](const KLV_LogRecord&) {});
+  const TemporaryFolder folder;
+  return Campaign(options).Run();
+}

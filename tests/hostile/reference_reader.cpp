@@ -1,0 +1,212 @@
+// Reads the parameter file of the working directory through HDF5's C interface alone, in the way in which a storage
+// does: element by element, each of the first as every type. None of our code is in it. It decides whether a file on
+// which the library dies, hangs or runs out of memory is one on which HDF5 itself does.
+//
+//   reference_reader
+#include <hdf5.h>
+
+#include <malloc.h>
+#include <stdlib.h>
+#include <string.h>
+#include <unistd.h>
+
+#include <initializer_list>
+
+namespace
+{
+
+constexpr hssize_t kReadAsEveryType = 3;
+
+herr_t CountLink(hid_t, const char*, const H5L_info_t*, void* count)
+{
+  ++*static_cast<hsize_t*>(count);
+  return 0;
+}
+
+hsize_t NumLinks(hid_t group)
+{
+  hsize_t count = 0;
+  hsize_t start = 0;
+  H5Literate(group, H5_INDEX_NAME, H5_ITER_INC, &start, CountLink, &count);
+  return count;
+}
+
+// The name of a member, to be freed by the caller; null when there is none.
+char* NameAt(hid_t group, hsize_t position)
+{
+  const ssize_t length = H5Lget_name_by_idx(group, ".", H5_INDEX_NAME, H5_ITER_INC, position, nullptr, 0, H5P_DEFAULT);
+  if (length < 0)
+  {
+    return nullptr;
+  }
+  auto* name = static_cast<char*>(malloc(static_cast<size_t>(length) + 1));
+  if (name != nullptr)
+  {
+    H5Lget_name_by_idx(group, ".", H5_INDEX_NAME, H5_ITER_INC, position, name, static_cast<size_t>(length) + 1,
+                       H5P_DEFAULT);
+  }
+  return name;
+}
+
+void FollowReference(hid_t dataset, const hobj_ref_t* reference)
+{
+  H5O_type_t type = H5O_TYPE_UNKNOWN;
+  if (H5Rget_obj_type2(dataset, H5R_OBJECT, reference, &type) < 0 || type != H5O_TYPE_GROUP)
+  {
+    return;
+  }
+  const hid_t target = H5Rdereference2(dataset, H5P_DEFAULT, H5R_OBJECT, reference);
+  char name[1024];
+  H5Iget_name(target, nullptr, 0);
+  H5Iget_name(target, name, sizeof name);
+  H5Oclose(target);
+}
+
+void ReadElement(hid_t dataset, hid_t type, hsize_t position)
+{
+  const hid_t space = H5Dget_space(dataset);
+  const hsize_t one = 1;
+  const hid_t memory = H5Screate_simple(1, &one, nullptr);
+  H5Sselect_hyperslab(space, H5S_SELECT_SET, &position, nullptr, &one, nullptr);
+  union
+  {
+    hvl_t sequence;
+    hobj_ref_t reference;
+    double number;
+  } element;
+  memset(&element, 0, sizeof element);
+  const bool good = H5Dread(dataset, type, memory, space, H5P_DEFAULT, &element) >= 0;
+  if (H5Tget_class(type) == H5T_VLEN)
+  {
+    free(element.sequence.p);
+  }
+  else if (good && H5Tget_class(type) == H5T_REFERENCE)
+  {
+    FollowReference(dataset, &element.reference);
+  }
+  H5Sclose(memory);
+  H5Sclose(space);
+}
+
+struct Types
+{
+  const hid_t* begin;
+  const hid_t* end;
+};
+
+// The first elements as every type, or, in the second pass, all elements as the types of the dataset's class.
+void ReadDataset(hid_t dataset, Types types, bool all)
+{
+  const hid_t space = H5Dget_space(dataset);
+  const hssize_t count = H5Sget_select_npoints(space);
+  const bool rank_one = H5Sget_simple_extent_ndims(space) == 1;
+  H5Sclose(space);
+  const hid_t type = H5Dget_type(dataset);
+  const H5T_class_t type_class = H5Tget_class(type);
+  H5Tclose(type);
+  for (hssize_t i = 0; rank_one && i < count && (all || i < kReadAsEveryType); ++i)
+  {
+    for (const hid_t* one = types.begin; one != types.end; ++one)
+    {
+      if (!all || H5Tget_class(*one) == type_class)
+      {
+        ReadElement(dataset, *one, static_cast<hsize_t>(i));
+      }
+    }
+  }
+}
+
+void ReadCommand(hid_t group, Types types, bool all)
+{
+  const hsize_t count = NumLinks(group);
+  for (hsize_t i = 0; i < count; ++i)
+  {
+    char* name = NameAt(group, i);
+    const hid_t dataset = name != nullptr ? H5Dopen2(group, name, H5P_DEFAULT) : -1;
+    if (dataset >= 0)
+    {
+      ReadDataset(dataset, types, all);
+      H5Dclose(dataset);
+    }
+    free(name);
+  }
+}
+
+// Calls a reader for each member group.
+template <class Reader>
+void ForEachGroup(hid_t group, Reader reader)
+{
+  H5G_info_t info;
+  H5Gget_info(group, &info);
+  const hsize_t count = NumLinks(group);
+  for (hsize_t i = 0; i < count; ++i)
+  {
+    char* name = NameAt(group, i);
+    const hid_t member = name != nullptr ? H5Gopen2(group, name, H5P_DEFAULT) : -1;
+    if (member >= 0)
+    {
+      reader(member);
+      H5Gclose(member);
+    }
+    free(name);
+  }
+}
+
+hid_t OpenFile()
+{
+  const hid_t access = H5Pcreate(H5P_FILE_ACCESS);
+  H5Pset_cache(access, 100, 5000, 0x40000000, 0.0);
+  const hid_t file = H5Fopen("parfile_storage.hdf5", H5F_ACC_RDONLY, access);
+  H5Pclose(access);
+  return file;
+}
+
+// Fills memory that nothing was written to, so that a use of it does not go by unseen.
+void FillFreshMemory()
+{
+  mallopt(M_PERTURB, 165);
+  H5set_free_list_limits(0, 0, 0, 0, 0, 0);
+}
+
+void ReadFile(Types types)
+{
+  const hid_t file = OpenFile();
+  const hid_t top = H5Gopen2(file, "/PARFILE", H5P_DEFAULT);
+  if (top >= 0)
+  {
+    for (const bool all : {false, true})
+    {
+      ForEachGroup(top,
+                   [&](hid_t kind) { ForEachGroup(kind, [&](hid_t command) { ReadCommand(command, types, all); }); });
+    }
+    H5Gclose(top);
+  }
+  H5Fclose(file);
+}
+
+}  // namespace
+
+int main(int argc, char** argv)
+{
+  int next = 1;
+  if (next < argc && strcmp(argv[next], "--fill") == 0)
+  {
+    FillFreshMemory();
+    ++next;
+  }
+  H5Eset_auto2(H5E_DEFAULT, nullptr, nullptr);
+  const hid_t types[] = {H5T_NATIVE_INT,
+                         H5T_NATIVE_DOUBLE,
+                         H5Tvlen_create(H5T_C_S1),
+                         H5Tvlen_create(H5T_NATIVE_INT),
+                         H5Tvlen_create(H5T_NATIVE_DOUBLE),
+                         H5T_STD_REF_OBJ};
+  for (; next < argc; ++next)
+  {
+    if (chdir(argv[next]) == 0)
+    {
+      ReadFile({types, types + sizeof types / sizeof types[0]});
+    }
+  }
+  return 0;
+}
