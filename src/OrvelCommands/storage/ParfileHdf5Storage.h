@@ -40,13 +40,14 @@ struct FailureText;
 /// Cost: each lookup of a name is one pass over the names of its group, in name order, and ends at the match. No
 /// names are kept between calls.
 ///
-/// Other processes: several may read a file at once. While one has it open for writing no other can open it, and while one
-/// reads it no other can open it for writing; the constructor then fails at once with its first failure. (HDF5 locks the
-/// file, where the file system can and HDF5_USE_FILE_LOCKING does not say otherwise.)
+/// Other processes: several may read a file at once. While one has it open for writing no other can open it, and while
+/// one reads it no other can open it for writing; the constructor then fails at once with its first failure. (HDF5
+/// locks the file, where the file system can and HDF5_USE_FILE_LOCKING does not say otherwise.)
 ///
-/// \warning HDF5 writes the values at once and the tree that leads to them as it finds time, at the latest as the storage
-/// is destroyed. A disk that is full by then, or a process that is killed before, can leave a file in which also what was
-/// there before cannot be reached any more, and a destructor reports nothing. Fill a copy and rename it where that matters.
+/// \warning HDF5 writes the values at once and the tree that leads to them as it finds time, at the latest as the
+/// storage is destroyed. A disk that is full by then, or a process that is killed before, can leave a file in which
+/// also what was there before cannot be reached any more, and a destructor reports nothing. Fill a copy and rename it
+/// where that matters.
 ///
 /// \warning Copies share one open file, and each of them deletes it when destroyed: at most one of the objects that
 /// share a file may ever be destroyed. An assignment does not release the file that the target held.
