@@ -66,6 +66,23 @@ void FillCommands(JobPlan& plan, Numbers& numbers, std::uint64_t sparseness)
   }
 }
 
+bool LacksTarget(const JobPlan& plan, const PlannedKind& kind)
+{
+  const auto fields = orvel::schema::FindCommand(kind.name)->fields;
+  return std::any_of(fields.begin(), fields.end(), [&](const Field& field) {
+    return field.presence == Presence::Always && !field.target.empty() &&
+           FindKind(plan, std::string(field.target)) == nullptr;
+  });
+}
+
+// A command whose target must be there does not load without it.
+void DropKindsWithoutTargets(JobPlan& plan)
+{
+  const auto dropped = std::remove_if(plan.kinds.begin(), plan.kinds.end(),
+                                      [copy = plan](const PlannedKind& kind) { return LacksTarget(copy, kind); });
+  plan.kinds.erase(dropped, plan.kinds.end());
+}
+
 }  // namespace
 
 JobPlan PlanSmallJob(Numbers& numbers, const std::vector<std::string>& names)
@@ -97,6 +114,7 @@ JobPlan PlanSoundJob(Numbers& numbers, std::uint64_t sparseness)
     }
     plan.kinds.push_back(kind);
   }
+  DropKindsWithoutTargets(plan);
   FillCommands(plan, numbers, sparseness);
   return plan;
 }

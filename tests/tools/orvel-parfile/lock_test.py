@@ -16,7 +16,7 @@ from tree import tree_of
 
 SET = ("set", "DV_", "porosity", "INITIAL_", "0.7")
 IMPORT = ("import", EXAMPLES / "smooth" / "job.toml", "--force")
-READ = (("check",), ("show",), ("export",))
+READ = (("check", "--ignore", "response-or-operator"), ("show",), ("export",))
 CHANGE = (SET, ("unset", "DV_", "porosity", "INITIAL_"), IMPORT, ("init", "--force"))
 
 

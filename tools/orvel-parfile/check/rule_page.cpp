@@ -64,8 +64,8 @@ std::string RulesAsMarkdown()
        "| Rule | Severity | For | Finds |\n|---|---|---|---|\n";
   for (const Rule* rule : AllRules())
   {
-    page << "| [`" << rule->name << "`](#" << rule->name << ") | " << SeverityName(rule->severity) << " | "
-         << ScopeText(*rule) << " | " << rule->what << " |\n";
+    page << "| `" << rule->name << "` | " << SeverityName(rule->severity) << " | " << ScopeText(*rule) << " | "
+         << rule->what << " |\n";
   }
   for (const Rule* rule : AllRules())
   {
