@@ -71,13 +71,15 @@ void SetName(std::array<char, 4096>& name, const std::string& text)
   }
 }
 
-// The lock of a folder, held by the process that works in it. -1 when another has it.
+// The lock of a folder, held by the process that works in it. -1 and errno when it cannot be had.
 int TryToLock(const fs::path& folder)
 {
   const int descriptor = open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
   if (descriptor >= 0 && flock(descriptor, LOCK_EX | LOCK_NB) != 0)
   {
+    const int error = errno;
     close(descriptor);
+    errno = error;
     return -1;
   }
   return descriptor;
@@ -108,13 +110,11 @@ ScratchFolder::ScratchFolder(const fs::path& place) : m_lock(-1)
   const fs::path parent = place.parent_path();
   RemoveAbandoned(parent);
   const SignalsWait wait;
-  // Another process may take a folder for abandoned between its making and its locking: then comes the next one.
-  while (m_lock < 0 || !fs::exists(m_path))
+  // Another process may take a folder for abandoned between its making and its locking: then comes the next one. Where
+  // the file system has no locks nobody takes folders for abandoned, and this one does without.
+  bool is_taken = true;
+  while (is_taken)
   {
-    if (m_lock >= 0)
-    {
-      close(m_lock);
-    }
     std::string name = (parent / (std::string(kPrefix) + "XXXXXX")).string();
     if (mkdtemp(name.data()) == nullptr)
     {
@@ -122,6 +122,11 @@ ScratchFolder::ScratchFolder(const fs::path& place) : m_lock(-1)
     }
     m_path = name;
     m_lock = TryToLock(m_path);
+    is_taken = (m_lock < 0 && errno == EWOULDBLOCK) || !fs::exists(m_path);
+    if (is_taken && m_lock >= 0)
+    {
+      close(m_lock);
+    }
   }
   SetName(scratch_file, File().string());
   SetName(scratch_folder, m_path.string());
@@ -132,7 +137,10 @@ ScratchFolder::~ScratchFolder()
   std::error_code ignored;
   fs::remove_all(m_path, ignored);
   scratch_folder[0] = '\0';
-  close(m_lock);
+  if (m_lock >= 0)
+  {
+    close(m_lock);
+  }
 }
 
 fs::path ScratchFolder::File() const
