@@ -26,7 +26,8 @@ find_package(nlohmann_json REQUIRED)
 find_package(GTest REQUIRED)
 
 set(tool "@TREE@/tools/orvel-parfile")
-add_executable(orvel-parfile tool.cpp "${tool}/subcommands/schema.cpp" "${tool}/support/exit_code.cpp"
+add_executable(orvel-parfile tool.cpp "${tool}/subcommands/schema.cpp" "${tool}/job/stored_type.cpp"
+  "${tool}/support/exit_code.cpp"
   "${tool}/support/nearest_name.cpp" "${tool}/support/plain_text.cpp" "${tool}/support/schema_names.cpp")
 target_include_directories(orvel-parfile PRIVATE "${tool}")
 target_link_libraries(orvel-parfile PRIVATE OrvelCommands::OrvelCommands CLI11::CLI11 nlohmann_json::nlohmann_json)

@@ -32,7 +32,7 @@ class Generator:
 
     def job(self, commands, keys_of_each=3):
         """Kind -> id -> key -> values, with this many commands, for support.write_parameter_file."""
-        names = sorted(self.kinds) + ["REPORT_", "other kind"]
+        names = sorted(set(self.kinds) - {"extra_kinds"}) + ["REPORT_", "other kind"]
         job = {}
         self.ids = {}
         for position in range(commands):
@@ -48,7 +48,7 @@ class Generator:
     def _fill(self, kind, keys, count):
         rows = self.kinds.get(kind, {}).get("additionalProperties", {}).get("properties", {})
         for key in self.random.sample(sorted(rows), min(len(rows), count)):
-            keys[key] = self._known(key, rows[key])
+            keys[key] = self._known(key, rows[key]["anyOf"][0])
         if self.random.random() < 0.3:
             keys["WEIGHT OF IT"] = self._any()
 

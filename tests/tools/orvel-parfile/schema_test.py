@@ -7,6 +7,8 @@ import tomllib
 import unittest
 from pathlib import Path
 
+import jsonschema
+
 sys.path.insert(0, str(Path(__file__).resolve().parent))
 from support import TOOL  # noqa: E402
 
@@ -50,20 +52,28 @@ class Schema(unittest.TestCase):
 class JsonSchema(unittest.TestCase):
     @classmethod
     def setUpClass(cls):
-        cls.kinds = json.loads(schema("--json-schema").stdout)["properties"]
+        cls.whole = json.loads(schema("--json-schema").stdout)
+        cls.kinds = cls.whole["properties"]
 
     def keys(self, kind):
         return self.kinds[kind]["additionalProperties"]
 
+    def complaints(self, text):
+        """What a validator of JSON schemas says of a job description."""
+        validator = jsonschema.Draft202012Validator(self.whole)
+        return sorted(error.json_path for error in validator.iter_errors(tomllib.loads(text)))
+
     def test_tells_the_type_of_each_sort_of_key(self):
-        variable = self.keys("DV_")["properties"]
-        self.assertEqual(variable["INITIAL_"]["type"], "number")
-        self.assertEqual(variable["ELEMENT_GROUP_"]["type"], "string")
-        self.assertEqual(variable["FILTER_"]["items"], {"type": "string"})
-        self.assertEqual(variable["TYPE_"]["enum"], ["AUTO", "DENSITY", "DETACHED", "NODAL", "NODAL_VECTOR"])
-        self.assertEqual(self.keys("STOP_")["properties"]["ITER_MAX_"]["maximum"], 2147483647)
-        self.assertEqual(self.keys("OUTPUT_")["properties"]["ITERATION_"]["items"]["type"], "integer")
-        self.assertEqual(self.keys("OUTPUT_")["properties"]["CUTOFF_"]["items"]["type"], "number")
+        def plain(kind, key):
+            return self.keys(kind)["properties"][key]["anyOf"][0]
+
+        self.assertEqual(plain("DV_", "INITIAL_")["type"], "number")
+        self.assertEqual(plain("DV_", "ELEMENT_GROUP_")["type"], "string")
+        self.assertEqual(plain("DV_", "FILTER_")["items"], {"type": "string"})
+        self.assertEqual(plain("DV_", "TYPE_")["enum"], ["AUTO", "DENSITY", "DETACHED", "NODAL", "NODAL_VECTOR"])
+        self.assertEqual(plain("STOP_", "ITER_MAX_")["maximum"], 2147483647)
+        self.assertEqual(plain("OUTPUT_", "ITERATION_")["items"]["type"], "integer")
+        self.assertEqual(plain("OUTPUT_", "CUTOFF_")["items"]["type"], "number")
 
     def test_requires_the_keys_that_must_always_be_there(self):
         self.assertEqual(self.keys("DV_")["required"], ["INITIAL_", "TYPE_"])
@@ -78,6 +88,22 @@ class JsonSchema(unittest.TestCase):
                     with self.subTest(kind=kind, id=identifier):
                         self.assertLessEqual(set(keys), set(self.keys(kind)["properties"]))
                         self.assertLessEqual(set(self.keys(kind)["required"]), set(keys))
+
+    def test_takes_the_example_jobs(self):
+        for example in ("bent_duct", "smooth"):
+            with self.subTest(example):
+                self.assertEqual(self.complaints((REPOSITORY / "examples" / example / "job.toml").read_text()), [])
+
+    def test_takes_what_no_command_reads_where_it_stands_with_its_type(self):
+        self.assertEqual(self.complaints(
+            'extra_kinds = ["REPORT_"]\n[REPORT_.r]\nPAGES_ = { type = "int64", values = [3] }\n'
+            '[MODEL_.m]\nFILE_ = { type = "text", hex = ["ff"] }\nSCALE_ = { type = "number", values = [1.0] }\n'), [])
+
+    def test_finds_a_wrong_value_key_and_kind_at_its_place(self):
+        self.assertEqual(self.complaints(
+            '[MODEL_.m]\nFILE_ = 1\nFIEL_ = "m"\n[STOP_.s]\nITER_MAX_ = { type = "int", values = [1] }\n'
+            'ITER_MIN_ = 1\nRESIDUAL_OBJ_ = 1.0\nRESIDUAL_DV_ = 1.0\n[REPROT_.r]\nFILE_ = "x"\n'),
+            ["$.MODEL_.m.FIEL_", "$.MODEL_.m.FILE_", "$.REPROT_.r.FILE_", "$.STOP_.s.ITER_MAX_"])
 
 
 if __name__ == "__main__":

@@ -1,3 +1,5 @@
+#include "job/job_description.h"
+#include "job/stored_type.h"
 #include "subcommands.h"
 #include "support/exit_code.h"
 #include "support/nearest_name.h"
@@ -119,22 +121,52 @@ Json ValueSchema(const schema::Field& field)
   }
 }
 
+constexpr const char* kTypedKey = "typed_key";
+
+Json TypedKeyReference()
+{
+  return {{"$ref", std::string("#/$defs/") + kTypedKey}};
+}
+
+// A key that stands with its type, as an export has what no command reads.
+Json TypedKeySchema()
+{
+  return {{"description", "What no command reads in this form, with its type in the parameter file."},
+          {"type", "object"},
+          {"properties",
+           {{kTypeMember, {{"enum", StoredTypeNames()}}},
+            {kValuesMember, {{"type", "array"}}},
+            {kHexMember, {{"type", "array"}, {"items", {{"type", "string"}}}}}}},
+          {"required", {kTypeMember}},
+          {"minProperties", 2},
+          {"maxProperties", 2},
+          {"additionalProperties", false}};
+}
+
+// Commands of kinds that no command class reads.
+Json ExtraKindSchema()
+{
+  const Json one = {{"type", "object"}, {"additionalProperties", TypedKeyReference()}};
+  return {{"type", "object"}, {"additionalProperties", one}};
+}
+
 Json KindSchema(const schema::Command& command)
 {
   Json keys = Json::object();
   Json required = Json::array();
   for (const schema::Field& field : command.fields)
   {
-    Json key = field.presence == schema::Presence::Repeated ? Json{{"type", "array"}, {"items", ValueSchema(field)}}
-                                                            : ValueSchema(field);
-    key["description"] = field.documentation;
-    keys[std::string(field.key)] = key;
+    const Json plain = field.presence == schema::Presence::Repeated
+                         ? Json{{"type", "array"}, {"items", ValueSchema(field)}}
+                         : ValueSchema(field);
+    keys[std::string(field.key)] = {{"description", field.documentation}, {"anyOf", {plain, TypedKeyReference()}}};
     if (field.presence == schema::Presence::Always)
     {
       required.push_back(field.key);
     }
   }
-  const Json one = {{"type", "object"}, {"properties", keys}, {"required", required}, {"additionalProperties", false}};
+  const Json one = {
+    {"type", "object"}, {"properties", keys}, {"required", required}, {"additionalProperties", TypedKeyReference()}};
   return {{"description", command.documentation}, {"type", "object"}, {"additionalProperties", one}};
 }
 
@@ -145,11 +177,15 @@ void PrintJsonSchema()
   {
     kinds[std::string(command.kind)] = KindSchema(command);
   }
+  kinds[kExtraKinds] = {{"description", "Kinds of this description that no command class reads."},
+                        {"type", "array"},
+                        {"items", {{"type", "string"}}}};
   const Json all = {{"$schema", "https://json-schema.org/draft/2020-12/schema"},
                     {"title", "A job description for orvel-parfile"},
                     {"type", "object"},
                     {"properties", kinds},
-                    {"additionalProperties", false}};
+                    {"additionalProperties", ExtraKindSchema()},
+                    {"$defs", {{kTypedKey, TypedKeySchema()}}}};
   std::cout << all.dump(2) << "\n";
 }
 
