@@ -50,7 +50,6 @@ class DebianPackages(FolderTest):
                 self.assertEqual(field(package, "Maintainer"), "OrvelCommands maintainers <maintainers@orvel.invalid>")
 
     def test_have_nothing_that_lintian_objects_to(self):
-        # Until the manual page of the tool is written, this one complaint is right.
         ended = run_freely("lintian", "--fail-on", "error,warning", "--allow-root", *self.packages.values())
         self.assertEqual((ended.returncode, ended.stdout), (0, ""), ended.stderr)
 

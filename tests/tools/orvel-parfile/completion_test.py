@@ -155,7 +155,7 @@ class Zsh(CompletionTest):
             zmodload zsh/zpty
             zpty shell zsh -f -i
             send() { zpty -w -n shell "$1" }
-            send $'PS1=; fpath=('$1$' $fpath); autoload -Uz compinit; compinit -u -D; print REA\\DY\\n'
+            send $'PS1=; fpath=('${(q)1}$' $fpath); autoload -Uz compinit; compinit -u -D; print REA\\DY\\n'
             zpty -r -m shell answer '*READY*'
             send $'orvel-parfile set DV_ por\\tTYPE_ DEN\\t\\n'
             zpty -r -m shell answer '*DV_ porosity: TYPE_ DENSITY -> DENSITY*'
