@@ -1,9 +1,10 @@
 #include "finding.h"
 
+#include "support/at_place.h"
+
 std::string AsLine(const Finding& finding)
 {
-  return (finding.place.empty() ? "" : finding.place + ": ") + finding.text +
-         (finding.remedy.empty() ? "" : "; " + finding.remedy);
+  return AtPlace(finding.place, finding.text + (finding.remedy.empty() ? "" : "; " + finding.remedy));
 }
 
 std::vector<std::string> AsLines(const std::vector<Finding>& findings)

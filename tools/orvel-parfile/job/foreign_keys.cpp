@@ -1,5 +1,6 @@
 #include "foreign_keys.h"
 
+#include "support/at_place.h"
 #include "support/exit_code.h"
 #include "support/hdf5_handle.h"
 
@@ -137,8 +138,8 @@ void WriteForeignKeys(const std::filesystem::path& file, const Job& job, std::ve
     {
       if (IsForeign(key) && !WriteKey(handle.Id(), command, key))
       {
-        failures.push_back((key.place.empty() ? "" : key.place + ": ") + command.kind + " " + command.id + ": " +
-                           key.name + " cannot be written");
+        failures.push_back(
+          AtPlace(key.place, command.kind + " " + command.id + ": " + key.name + " cannot be written"));
       }
     }
   }

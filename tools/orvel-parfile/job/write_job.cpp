@@ -2,6 +2,7 @@
 
 #include "foreign_keys.h"
 #include "parameter_file.h"
+#include "support/at_place.h"
 #include "support/exit_code.h"
 #include "support/hdf5_handle.h"
 #include "support/progress.h"
@@ -52,7 +53,7 @@ void WriteOrNote(const AddTo& add, const JobItem& item, std::vector<std::string>
   }
   catch (const KLV_Failure& failure)
   {
-    failures.push_back((item.place.empty() ? "" : item.place + ": ") + failure.what());
+    failures.push_back(AtPlace(item.place, failure.what()));
   }
 }
 
@@ -64,7 +65,7 @@ void AddCommandOrNote(const ParfileHdf5Storage& storage, const JobCommand& comma
   }
   catch (const KLV_Failure& failure)
   {
-    failures.push_back((command.place.empty() ? "" : command.place + ": ") + failure.what());
+    failures.push_back(AtPlace(command.place, failure.what()));
   }
 }
 
