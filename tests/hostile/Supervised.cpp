@@ -45,11 +45,14 @@ Note& SharedNote()
 void SetLimits(Limit limit)
 {
   SignOfLife(limit);
-  // A sanitizer reserves address space without end; it has a limit of its own, which is set where it is run.
+  // A sanitizer reserves address space without end and widens the frames of the stack; its limit of memory is set where
+  // it is run.
   if (ORVEL_TEST_SANITIZED == 0)
   {
     const rlimit memory{kMemoryLimit, kMemoryLimit};
     setrlimit(RLIMIT_AS, &memory);
+    const rlimit stack{kStackLimit, kStackLimit};
+    setrlimit(RLIMIT_STACK, &stack);
   }
 }
 

@@ -30,6 +30,10 @@ constexpr unsigned kHangSeconds = 10;
 constexpr unsigned kQuickMilliseconds = 500;
 constexpr unsigned long long kMemoryLimit = 2ULL << 30U;
 
+/// Small, so that a recursion without end always ends at the stack, in any program, and soon. With the system's usual 8
+/// MiB HDF5's virtual dataset that names itself reaches the limit of memory at about the same depth, sometimes before.
+constexpr unsigned long long kStackLimit = 256ULL << 10U;
+
 struct Outcome
 {
   End end = End::Well;
