@@ -34,7 +34,7 @@ target_link_libraries(orvel-parfile PRIVATE OrvelCommands::OrvelCommands CLI11::
 
 set(tests "@TREE@/tests")
 add_executable(expectations "${tests}/OrvelCommands/commands/SCALING_CURVE_test.cpp"
-  "${tests}/OrvelCommands/commands/command_schema_test.cpp" "${tests}/support/RecordingStorage.cpp")
+  "${tests}/OrvelCommands/commands/command_schema_rows_test.cpp" "${tests}/support/RecordingStorage.cpp")
 target_include_directories(expectations PRIVATE "${tests}")
 target_link_libraries(expectations PRIVATE OrvelCommands::OrvelCommands Orvel::DbFactory GTest::gmock_main)
 

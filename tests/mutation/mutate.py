@@ -25,7 +25,7 @@ TABLES = (f"{COMMANDS}/gyre_commands.toml", f"{COMMANDS}/smooth_commands.toml")
 CONTAINER_TABLES = "src/OrvelCommands/storage/OrvelParfileStorageCmdContainer_tables.cpp"
 
 # The tests that know the tables, those that are quickest to build first.
-TEST_PROGRAMS = ("command_classes_test", "storage_test", "parfile_test")
+TEST_PROGRAMS = ("command_schema_test", "command_classes_test", "storage_test", "parfile_test")
 
 OTHER_PRESENCE = {"always": "optional", "optional": "always", "repeated": "optional"}
 OTHER_TYPE = {"string": "int32", "int32": "double", "double": "int32", "int32_list": "double_list",
