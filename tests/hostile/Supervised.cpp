@@ -122,9 +122,11 @@ const char* NameOf(End end)
 
 void SignOfLife(Limit limit)
 {
-  alarm(kHangSeconds);
-  const itimerval quick{{0, 0}, {0, limit == Limit::Quick ? kQuickMilliseconds * 1000 : 0}};
-  setitimer(ITIMER_PROF, &quick, nullptr);
+  alarm(kWaitSeconds);
+  const timeval full{kHangSeconds, 0};
+  const timeval quick{0, kQuickMilliseconds * 1000};
+  const itimerval work{{0, 0}, limit == Limit::Quick ? quick : full};
+  setitimer(ITIMER_PROF, &work, nullptr);
 }
 
 Outcome RunSupervised(const std::function<void()>& action, Limit limit)

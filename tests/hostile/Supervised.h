@@ -2,6 +2,8 @@
 /// Code that may end its process, in a process of its own. POSIX only; a caller with one thread.
 #pragma once
 
+#include "hostile/limits.h"
+
 #include <functional>
 #include <string>
 #include <vector>
@@ -11,7 +13,7 @@ enum class End
 {
   Well,
   Crash,   ///< By a signal, or by a sanitizer.
-  Hang,    ///< Longer than kHangSeconds without a sign of life.
+  Hang,    ///< Longer than its limit without a sign of life.
   Memory,  ///< It wanted more than kMemoryLimit.
   Refused  ///< By an exception or a state that is not allowed.
 };
@@ -19,20 +21,12 @@ enum class End
 /// How long a process may work without a sign of life.
 enum class Limit
 {
-  Full,  ///< kHangSeconds.
+  Full,  ///< kHangSeconds of processor time, or kWaitSeconds of the clock.
   Quick  ///< kQuickMilliseconds of processor time, to find out which cases are worth the full time.
 };
 
 /// In words, for reports.
 const char* NameOf(End end);
-
-constexpr unsigned kHangSeconds = 10;
-constexpr unsigned kQuickMilliseconds = 500;
-constexpr unsigned long long kMemoryLimit = 2ULL << 30U;
-
-/// Small, so that a recursion without end always ends at the stack, in any program, and soon. With the system's usual 8
-/// MiB HDF5's virtual dataset that names itself reaches the limit of memory at about the same depth, sometimes before.
-constexpr unsigned long long kStackLimit = 256ULL << 10U;
 
 struct Outcome
 {

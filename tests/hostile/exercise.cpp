@@ -1,5 +1,6 @@
 #include "hostile/exercise.h"
 
+#include "hostile/limits.h"
 #include "OrvelCommands/commands/command_schema.h"
 #include "OrvelCommands/foundation/KLV_Failure.h"
 #include "OrvelCommands/parfile/for_each_command.h"

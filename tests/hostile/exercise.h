@@ -22,9 +22,6 @@ struct Ends
   std::uint64_t binding_failures = 0;  ///< Of HDF5's binding, which some operations let pass.
 };
 
-/// How many values of one key are read before an impatient exercise gives up.
-constexpr std::uint64_t kPatience = 100000;
-
 /// Loads, validates and shows the parameter file of the working directory as a fluid job and as a smoothing job, and
 /// asks its storage for each command and the first values of each key as its own type and as another one, which depends
 /// on \p number.

@@ -226,15 +226,14 @@ private:
                                         Limit::Full);
   }
 
-  Outcome RunReference(End expected, const std::vector<std::string>& folders, Limit limit) const
+  Outcome RunReference(End expected, std::vector<std::string> arguments, Limit limit) const
   {
-    const Outcome outcome = RunProgram(m_options.reference, folders, 0, limit);
+    const Outcome outcome = RunProgram(m_options.reference, arguments, 0, limit);
     if (outcome.end == expected)
     {
       return outcome;
     }
-    std::vector<std::string> arguments{"--fill"};
-    arguments.insert(arguments.end(), folders.begin(), folders.end());
+    arguments.insert(arguments.begin(), "--fill");
     return RunProgram(m_options.reference, arguments, 0, limit);
   }
 
@@ -250,20 +249,22 @@ private:
   // HDF5 may have spoiled its own memory in an earlier case of the same process.
   void JudgeInCompany(std::uint64_t number, std::uint64_t first_of_batch, End end)
   {
-    std::vector<std::string> folders;
+    std::vector<std::string> arguments{"--impatient"};
+    std::vector<std::filesystem::path> folders;
     for (std::uint64_t one = first_of_batch; one <= number; ++one)
     {
-      folders.push_back(m_folder + "/" + std::to_string(one));
+      folders.push_back(std::filesystem::path(m_folder) / std::to_string(one));
+      arguments.push_back(folders.back().string());
       if (MakeAlone(one))
       {
         std::filesystem::create_directory(folders.back());
-        std::filesystem::rename(kFile, std::filesystem::path(folders.back()) / kFile);
+        std::filesystem::rename(kFile, folders.back() / kFile);
       }
     }
-    std::filesystem::copy_file(std::filesystem::path(folders.back()) / kFile, kFile);
+    std::filesystem::copy_file(folders.back() / kFile, kFile);
     Compare(number, " after the cases from " + std::to_string(first_of_batch), {end, ""},
-            RunReference(end, folders, Limit::Full));
-    for (const std::string& folder : folders)
+            RunReference(end, arguments, Limit::Full));
+    for (const std::filesystem::path& folder : folders)
     {
       std::filesystem::remove_all(folder);
     }

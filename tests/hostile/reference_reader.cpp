@@ -2,12 +2,18 @@
 // does: element by element, each of the first as every type. None of our code is in it. It decides whether a file on
 // which the library dies, hangs or runs out of memory is one on which HDF5 itself does.
 //
-//   reference_reader
+//   reference_reader [--fill] [--impatient] <folder>...
+//
+// --fill fills fresh memory, so that a use of it does not go by unseen; --impatient leaves out keys of too many values,
+// as a run over many files does.
+#include "hostile/limits.h"
+
 #include <hdf5.h>
 
 #include <malloc.h>
 #include <stdlib.h>
 #include <string.h>
+#include <sys/time.h>
 #include <unistd.h>
 
 #include <initializer_list>
@@ -16,6 +22,13 @@ namespace
 {
 
 constexpr hssize_t kReadAsEveryType = 3;
+
+struct Manner
+{
+  const hid_t* begin;
+  const hid_t* end;  // of the types to read as
+  bool impatient;
+};
 
 herr_t CountLink(hid_t, const char*, const H5L_info_t*, void* count)
 {
@@ -88,14 +101,8 @@ void ReadElement(hid_t dataset, hid_t type, hsize_t position)
   H5Sclose(space);
 }
 
-struct Types
-{
-  const hid_t* begin;
-  const hid_t* end;
-};
-
 // The first elements as every type, or, in the second pass, all elements as the types of the dataset's class.
-void ReadDataset(hid_t dataset, Types types, bool all)
+void ReadDataset(hid_t dataset, Manner manner, bool all)
 {
   const hid_t space = H5Dget_space(dataset);
   const hssize_t count = H5Sget_select_npoints(space);
@@ -104,9 +111,10 @@ void ReadDataset(hid_t dataset, Types types, bool all)
   const hid_t type = H5Dget_type(dataset);
   const H5T_class_t type_class = H5Tget_class(type);
   H5Tclose(type);
-  for (hssize_t i = 0; rank_one && i < count && (all || i < kReadAsEveryType); ++i)
+  const hssize_t wanted = all ? (manner.impatient && count > kPatience ? 0 : count) : kReadAsEveryType;
+  for (hssize_t i = 0; rank_one && i < count && i < wanted; ++i)
   {
-    for (const hid_t* one = types.begin; one != types.end; ++one)
+    for (const hid_t* one = manner.begin; one != manner.end; ++one)
     {
       if (!all || H5Tget_class(*one) == type_class)
       {
@@ -116,7 +124,7 @@ void ReadDataset(hid_t dataset, Types types, bool all)
   }
 }
 
-void ReadCommand(hid_t group, Types types, bool all)
+void ReadCommand(hid_t group, Manner manner, bool all)
 {
   const hsize_t count = NumLinks(group);
   for (hsize_t i = 0; i < count; ++i)
@@ -125,7 +133,7 @@ void ReadCommand(hid_t group, Types types, bool all)
     const hid_t dataset = name != nullptr ? H5Dopen2(group, name, H5P_DEFAULT) : -1;
     if (dataset >= 0)
     {
-      ReadDataset(dataset, types, all);
+      ReadDataset(dataset, manner, all);
       H5Dclose(dataset);
     }
     free(name);
@@ -168,7 +176,7 @@ void FillFreshMemory()
   H5set_free_list_limits(0, 0, 0, 0, 0, 0);
 }
 
-void ReadFile(Types types)
+void ReadFile(Manner manner)
 {
   const hid_t file = OpenFile();
   const hid_t top = H5Gopen2(file, "/PARFILE", H5P_DEFAULT);
@@ -177,7 +185,7 @@ void ReadFile(Types types)
     for (const bool all : {false, true})
     {
       ForEachGroup(top,
-                   [&](hid_t kind) { ForEachGroup(kind, [&](hid_t command) { ReadCommand(command, types, all); }); });
+                   [&](hid_t kind) { ForEachGroup(kind, [&](hid_t command) { ReadCommand(command, manner, all); }); });
     }
     H5Gclose(top);
   }
@@ -188,11 +196,15 @@ void ReadFile(Types types)
 
 int main(int argc, char** argv)
 {
+  Manner manner{nullptr, nullptr, false};
   int next = 1;
-  if (next < argc && strcmp(argv[next], "--fill") == 0)
+  for (; next < argc && strncmp(argv[next], "--", 2) == 0; ++next)
   {
-    FillFreshMemory();
-    ++next;
+    if (strcmp(argv[next], "--fill") == 0)
+    {
+      FillFreshMemory();
+    }
+    manner.impatient = manner.impatient || strcmp(argv[next], "--impatient") == 0;
   }
   H5Eset_auto2(H5E_DEFAULT, nullptr, nullptr);
   const hid_t types[] = {H5T_NATIVE_INT,
@@ -201,11 +213,15 @@ int main(int argc, char** argv)
                          H5Tvlen_create(H5T_NATIVE_INT),
                          H5Tvlen_create(H5T_NATIVE_DOUBLE),
                          H5T_STD_REF_OBJ};
+  manner.begin = types;
+  manner.end = types + sizeof types / sizeof types[0];
   for (; next < argc; ++next)
   {
     if (chdir(argv[next]) == 0)
     {
-      ReadFile({types, types + sizeof types / sizeof types[0]});
+      const itimerval work{{0, 0}, {kHangSeconds, 0}};
+      setitimer(ITIMER_PROF, &work, nullptr);
+      ReadFile(manner);
     }
   }
   return 0;
