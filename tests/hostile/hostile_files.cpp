@@ -30,9 +30,6 @@ constexpr const char* kFile = "parfile_storage.hdf5";
 // A process works through so many cases at most.
 constexpr std::uint64_t kBatch = 250;
 
-// Of the cases that hang and of those that declare too many values, so many get all the time there is.
-constexpr std::uint64_t kPatientCases = 5;
-
 struct Options
 {
   bool mutated = false;
@@ -42,6 +39,7 @@ struct Options
   std::string tool;
   std::uint64_t tool_every = 0;
   std::string keep;
+  std::uint64_t patient_cases = 5;
 };
 
 // What the working process tells the one that watches it.
@@ -113,7 +111,7 @@ private:
       next = Shared().current + 1;
       Judge(Shared().current, first, outcome.end);
     }
-    if (Shared().too_many != too_many_before && m_patient_cases < kPatientCases)
+    if (Shared().too_many != too_many_before && m_patient_cases < m_options.patient_cases)
     {
       ++m_patient_cases;
       JudgeFully(Shared().last_too_many);
@@ -190,27 +188,38 @@ private:
     {
       return;
     }
-    if (end == End::Hang && m_patient_hangs >= kPatientCases)
+    if (end == End::Hang)
     {
-      if (RunReference(End::Hang, {m_folder}, Limit::Quick).end == End::Hang)
-      {
-        ++m_quick_hangs;
-        return;
-      }
+      JudgeHang(number);
+      return;
     }
-    if (RunAlone(number).end != End::Well)
+    const Outcome alone = RunAlone(number);
+    if (alone.end != End::Well)
     {
-      m_patient_hangs += end == End::Hang ? 1 : 0;
-      JudgeFully(number);
-    }
-    else if (end == End::Hang)
-    {
-      ++m_slow;  // beyond the quick limit and within the full one
+      CompareWithReference(number, alone);
     }
     else
     {
       JudgeInCompany(number, first_of_batch, end);
     }
+  }
+
+  void JudgeHang(std::uint64_t number)
+  {
+    if (m_patient_hangs >= m_options.patient_cases &&
+        RunReference(End::Hang, {m_folder}, Limit::Quick).end == End::Hang)
+    {
+      ++m_quick_hangs;
+      return;
+    }
+    const Outcome alone = RunSupervised([&] { ExerciseFile(number, true); }, Limit::Full);
+    if (alone.end == End::Well)
+    {
+      ++m_slow;  // beyond the quick limit and within the full one
+      return;
+    }
+    ++m_patient_hangs;
+    CompareWithReference(number, alone);
   }
 
   // With fresh memory filled, when the first attempt ends well.
@@ -241,9 +250,13 @@ private:
   {
     if (MakeAlone(number))
     {
-      const Outcome alone = RunAlone(number);
-      Compare(number, "", alone, RunReference(alone.end, {m_folder}, Limit::Full));
+      CompareWithReference(number, RunAlone(number));
     }
+  }
+
+  void CompareWithReference(std::uint64_t number, const Outcome& alone)
+  {
+    Compare(number, "", alone, RunReference(alone.end, {m_folder}, Limit::Full));
   }
 
   // HDF5 may have spoiled its own memory in an earlier case of the same process.
@@ -366,6 +379,10 @@ int main(int argc, char** argv)
   app.add_option("--tool", options.tool, "orvel-parfile, to be run on some cases too")->check(CLI::ExistingFile);
   app.add_option("--tool-every", options.tool_every, "Run the tool on one of so many cases");
   app.add_option("--keep", options.keep, "The folder that keeps the files of the cases that are reported");
+  app
+    .add_option("--patient", options.patient_cases,
+                "So many of the cases that hang, and of those that declare too many values, get all the time there is")
+    ->capture_default_str();
   CLI11_PARSE(app, argc, argv);
   options.mutated = family == "mutated";
   for (std::string* path : {&options.reference, &options.tool, &options.keep})

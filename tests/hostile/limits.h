@@ -4,7 +4,7 @@
 
 /// Of processor time, which a busy machine does not shorten.
 constexpr unsigned kHangSeconds = 10;
-constexpr unsigned kQuickMilliseconds = 500;
+constexpr unsigned kQuickMilliseconds = 100;
 
 /// Of the clock, for a program that waits.
 constexpr unsigned kWaitSeconds = 60;

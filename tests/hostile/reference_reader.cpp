@@ -215,12 +215,16 @@ int main(int argc, char** argv)
                          H5T_STD_REF_OBJ};
   manner.begin = types;
   manner.end = types + sizeof types / sizeof types[0];
+  const int first = next;
   for (; next < argc; ++next)
   {
-    if (chdir(argv[next]) == 0)
+    if (next != first)  // which has the time that this program was started with
     {
       const itimerval work{{0, 0}, {kHangSeconds, 0}};
       setitimer(ITIMER_PROF, &work, nullptr);
+    }
+    if (chdir(argv[next]) == 0)
+    {
       ReadFile(manner);
     }
   }
