@@ -1,154 +1,158 @@
 """Changes the command tables and the container tables row by row and looks whether a test fails.
 
-Each change is made in a copy of the sources, from which the generated files are written anew and the tests are built; a change
-that the generator or the compiler refuses counts as found. What is done is kept in build/mutation/results.json, and a run
-that is started again goes on from there.
+Each change is made alone, in a copy of the sources, from which the generated files are written anew. Then test programs are built
+and run one after the other until one fails; a change that the generator or the compiler refuses counts as found. What is
+done is kept in build/mutation/results.json, and a run that is started again on the same sources goes on from there.
 """
 
 import argparse
+import hashlib
 import json
+import os
+import queue
 import random
-import re
 import shutil
 import subprocess
 import sys
+from concurrent.futures import ThreadPoolExecutor
 from pathlib import Path
+
+from changes import COMMANDS, TABLES, all_changes
 
 ROOT = Path(__file__).resolve().parents[2]
 WORK = ROOT / "build" / "mutation"
-COPY = WORK / "tree"
-BUILD = WORK / "build"
 RESULTS = WORK / "results.json"
 
-COMMANDS = "src/OrvelCommands/commands"
-TABLES = (f"{COMMANDS}/gyre_commands.toml", f"{COMMANDS}/smooth_commands.toml")
-CONTAINER_TABLES = "src/OrvelCommands/storage/OrvelParfileStorageCmdContainer_tables.cpp"
-
-# The tests that know the tables, those that are quickest to build first.
-TEST_PROGRAMS = ("command_schema_test", "command_classes_test", "storage_test", "parfile_test")
-
-OTHER_PRESENCE = {"always": "optional", "optional": "always", "repeated": "optional"}
-OTHER_TYPE = {"string": "int32", "int32": "double", "double": "int32", "int32_list": "double_list",
-              "double_list": "int32_list", "model_id": "string", "enum": "int32", "reference": "string"}
+# Test programs and which of their tests, those that are the quickest to build and the likeliest to fail first.
+TESTS = (
+    ("command_schema_rows_test", "*"),
+    ("storage_test", "OrvelParfileStorageCmdContainer*"),
+    ("command_classes_test", "*"),
+    ("storage_test", "-OrvelParfileStorageCmdContainer*"),
+    ("parfile_test", "*"),
+)
 
 
-def field_changes(line):
-    """The wrong forms of one row of a key, each with the name of what is wrong."""
-    key = re.search(r'key = "(\w+)"', line)
-    yield "label", line.replace(key[0], f'key = "{key[1][:-1]}X_"', 1)
-    for name, table in (("type", OTHER_TYPE), ("presence", OTHER_PRESENCE)):
-        found = re.search(rf'{name} = "(\w+)"', line)
-        if found and found[1] in table:
-            yield name, line.replace(found[0], f'{name} = "{table[found[1]]}"', 1)
-    target = re.search(r'target = "(\w+)"', line)
-    if target:
-        other = "FILTER_" if target[1] != "FILTER_" else "CS_"
-        yield "target", line.replace(target[0], f'target = "{other}"', 1)
-    yield "absence", ""
+class Workshop:
+    """A copy of the sources with a build of its own."""
 
+    def __init__(self, number, tests):
+        self.tree = WORK / f"tree_{number}"
+        self.build = WORK / f"build_{number}"
+        self.tests = tests
 
-def enumerator_changes(line):
-    name, number = re.match(r"(\w+)\s*=\s*(\d+)", line).groups()
-    yield "number", line.replace(number, str(int(number) + 500), 1)
-    yield "label", line.replace(name, name + "X", 1)
-    yield "absence", ""
+    def run(self, *command, **options):
+        return subprocess.run(command, cwd=self.tree, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True, **options)
 
+    def prepare(self):
+        shutil.rmtree(self.tree, ignore_errors=True)
+        names = subprocess.run(["git", "ls-files", "-z"], cwd=ROOT, capture_output=True, text=True, check=True).stdout
+        for name in filter(None, names.split("\0")):
+            (self.tree / name).parent.mkdir(parents=True, exist_ok=True)
+            shutil.copy2(ROOT / name, self.tree / name)
+        self.run("cmake", "-S", self.tree, "-B", self.build, "-G", "Ninja", "-DCMAKE_BUILD_TYPE=Debug",
+                 "-DCMAKE_CXX_FLAGS_DEBUG=-O0", "-DCMAKE_LINK_DEPENDS_NO_SHARED=ON", "-DORVEL_BUILD_TOOLS=OFF",
+                 "-DORVEL_BUILD_EXAMPLES=OFF", check=True)
+        finder = self.who_finds_it()
+        if finder:
+            sys.exit(f"mutate: without any change, {finder} fails already")
 
-def container_changes(line):
-    label = re.search(r'"(\w+_)"', line)
-    yield "label", line.replace(label[0], f'"{label[1][:-1]}X_"', 1)
-    target = re.search(r"(Items|Defs)::(\w+)", line)
-    if target:
-        other = {"Items": "NODE_GROUP", "Defs": "SMOOTH"}[target[1]]
-        if target[2] != other:
-            yield "target", line.replace(target[0], f"{target[1]}::{other}", 1)
-    yield "absence", ""
-
-
-def changes_of_file(path):
-    lines = (ROOT / path).read_text(encoding="utf-8").splitlines(True)
-    is_container = path == CONTAINER_TABLES
-    for number, line in enumerate(lines):
-        if is_container:
-            forms = container_changes(line) if re.match(r'\s+\{"\w+_",', line) else ()
-        elif re.match(r'\s*\{ key = "', line):
-            forms = list(field_changes(line))
-            if re.match(r'\s*\{ key = "', lines[number + 1]):
-                forms.append(("order", None))
-        else:
-            forms = enumerator_changes(line) if re.match(r"\w+\s*=\s*\d+\s*(#.*)?$", line) and "log_line" not in line else ()
-        for name, form in forms:
-            changed = list(lines)
-            if form is None:
-                changed[number], changed[number + 1] = changed[number + 1], changed[number]
-            else:
-                changed[number] = form
-            yield f"{Path(path).name}:{number + 1}: {name}", path, "".join(changed)
-
-
-def run(*command, **options):
-    return subprocess.run(command, cwd=COPY, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True, **options)
-
-
-def prepare():
-    shutil.rmtree(COPY, ignore_errors=True)
-    names = subprocess.run(["git", "ls-files"], cwd=ROOT, capture_output=True, text=True, check=True).stdout.split("\n")
-    for name in filter(None, names):
-        (COPY / name).parent.mkdir(parents=True, exist_ok=True)
-        shutil.copy2(ROOT / name, COPY / name)
-    run("cmake", "-S", COPY, "-B", BUILD, "-G", "Ninja", "-DCMAKE_BUILD_TYPE=Debug", "-DCMAKE_CXX_FLAGS_DEBUG=-O0",
-        "-DORVEL_BUILD_TOOLS=OFF", "-DORVEL_BUILD_EXAMPLES=OFF", check=True)
-    found = who_finds_it()
-    if found:
-        sys.exit(f"mutate: without any change, {found} fails already")
-
-
-def who_finds_it():
-    """The first of the generator, the compiler and the test programs that fails, none when no one does."""
-    if run(sys.executable, "-B", f"{COMMANDS}/generator", "--write").returncode != 0:
-        return "the generator"
-    for program in TEST_PROGRAMS:
-        if run("cmake", "--build", BUILD, "--target", program).returncode != 0:
-            return f"the compiler of {program}"
-        path = next(BUILD.rglob(program))
-        try:
-            if run(path, "--gtest_brief=1", "--gtest_fail_fast", timeout=300).returncode != 0:
+    def who_finds_it(self):
+        """The first of the generator, the compiler and the test programs that fails, none when no one does."""
+        if self.run(sys.executable, "-B", f"{COMMANDS}/generator", "--write").returncode != 0:
+            return "the generator"
+        for program, tests in self.tests:
+            if self.run("cmake", "--build", self.build, "--target", program).returncode != 0:
+                return f"the compiler of {program}"
+            path = next(path for path in self.build.rglob(program) if path.is_file())
+            try:
+                found = self.run(path, f"--gtest_filter={tests}", "--gtest_brief=1", "--gtest_fail_fast", timeout=300)
+            except subprocess.TimeoutExpired:
                 return program
-        except subprocess.TimeoutExpired:
-            return program
-    return None
+            if found.returncode != 0:
+                return program
+        return None
+
+    def try_out(self, change):
+        path = self.tree / change.path
+        sound = path.read_text(encoding="utf-8")
+        path.write_text(change.text, encoding="utf-8")
+        finder = self.who_finds_it()
+        path.write_text(sound, encoding="utf-8")
+        return finder
+
+
+def digest(*texts):
+    return hashlib.sha256("\0".join(texts).encode()).hexdigest()[:16]
+
+
+def digest_of_sources():
+    """What is found holds for these sources alone."""
+    folders = [ROOT / name / "OrvelCommands" for name in ("src", "tests")]
+    paths = sorted(path for folder in folders for path in folder.rglob("*") if path.is_file())
+    return digest(*(path.read_text(encoding="utf-8") for path in paths))
+
+
+def try_all(changes, results, keys, tests, jobs):
+    workshops = queue.SimpleQueue()
+    for number in range(jobs):
+        workshop = Workshop(number, tests)
+        workshop.prepare()
+        workshops.put(workshop)
+
+    def try_one(change):
+        workshop = workshops.get()
+        try:
+            results[keys[change]] = [change.name, workshop.try_out(change)]
+        finally:
+            workshops.put(workshop)
+        print(": ".join((change.name, results[keys[change]][1] or "SURVIVES")), flush=True)
+        written = RESULTS.with_suffix(f".{change.line}.tmp")
+        written.write_text(json.dumps(dict(results), indent=1), encoding="utf-8")
+        written.replace(RESULTS)
+
+    with ThreadPoolExecutor(jobs) as pool:
+        for done in [pool.submit(try_one, change) for change in changes]:
+            done.result()
+
+
+def report(changes, total, results, keys):
+    finders = [results[keys[change]][1] for change in changes]
+    survivors = [change.name for change, finder in zip(changes, finders) if finder is None]
+    print(f"mutate: {len(changes)} of {total} changes made, {len(survivors)} survived")
+    for finder in sorted(set(filter(None, finders))):
+        print(f"  {finders.count(finder)} found by {finder}")
+    for name in survivors:
+        print(f"  SURVIVES: {name}")
+    return 1 if survivors else 0
 
 
 def main():
     parser = argparse.ArgumentParser(prog="mutate", description=__doc__.splitlines()[0])
     parser.add_argument("--sample", type=int, help="take so many changes, chosen at random but always the same")
+    parser.add_argument("--table", choices=[Path(table).name for table in TABLES], help="take the changes of one table")
+    parser.add_argument("--without", action="append", default=[], metavar="PROGRAM",
+                        choices=sorted({program for program, _ in TESTS}), help="leave a test program out")
+    parser.add_argument("--jobs", type=int, default=os.cpu_count(), help="copies to work in beside each other")
     parser.add_argument("--afresh", action="store_true", help="forget what earlier runs found")
     options = parser.parse_args()
 
-    changes = [change for path in (*TABLES, CONTAINER_TABLES) for change in changes_of_file(path)]
+    tests = tuple(test for test in TESTS if test[0] not in options.without)
+    changes = [change for change in all_changes(ROOT) if options.table in (None, Path(change.path).name)]
     total = len(changes)
     if options.sample:
         random.Random(0).shuffle(changes)
         changes = changes[:options.sample]
+    sources = digest_of_sources()
+    keys = {change: digest(sources, str(tests), change.name) for change in changes}
     if options.afresh:
         RESULTS.unlink(missing_ok=True)
     WORK.mkdir(parents=True, exist_ok=True)
     results = json.loads(RESULTS.read_text(encoding="utf-8")) if RESULTS.exists() else {}
-    prepare()
-    for name, path, text in changes:
-        if name in results:
-            continue
-        sound = (COPY / path).read_text(encoding="utf-8")
-        (COPY / path).write_text(text, encoding="utf-8")
-        results[name] = who_finds_it()
-        (COPY / path).write_text(sound, encoding="utf-8")
-        RESULTS.write_text(json.dumps(results, indent=1), encoding="utf-8")
-        print(f"{name}: {results[name] or 'SURVIVES'}", flush=True)
-    survivors = [name for name, *_ in changes if results[name] is None]
-    print(f"mutate: {len(changes)} of {total} changes made, {len(survivors)} survived")
-    for name in survivors:
-        print(f"  {name}")
-    return 1 if survivors else 0
+    left = [change for change in changes if keys[change] not in results]
+    if left:
+        try_all(left, results, keys, tests, min(options.jobs, len(left)))
+    return report(changes, total, results, keys)
 
 
 if __name__ == "__main__":
