@@ -24,7 +24,10 @@ function(orvel_add_python_test name file)
 endfunction()
 
 # A program of clang's fuzzer from <name>.cpp. Without ORVEL_FUZZ it is only compiled, so that it keeps compiling.
+#
+#   orvel_add_fuzzer(<name> LINKS ...)
 function(orvel_add_fuzzer name)
+  cmake_parse_arguments(PARSE_ARGV 1 fuzzer "" "" "LINKS")
   if(ORVEL_FUZZ)
     add_executable(${name} ${name}.cpp)
     target_link_options(${name} PRIVATE -fsanitize=fuzzer)
@@ -32,5 +35,5 @@ function(orvel_add_fuzzer name)
     add_library(${name} OBJECT ${name}.cpp)
   endif()
   orvel_set_target_defaults(${name})
-  target_link_libraries(${name} PRIVATE OrvelCommandsInternals orvel_test_support)
+  target_link_libraries(${name} PRIVATE ${fuzzer_LINKS})
 endfunction()

@@ -380,6 +380,50 @@ class WrongTable(unittest.TestCase):
         self.expect_row('also = ["smooth_commands"]', 'also = "smooth_commands"', "aggregate",
                         "also must be a list of tables")
 
+    def test_also_with_something_else_than_names(self):
+        for bad in ('[{ name = "smooth_commands" }]', '[["smooth_commands"]]', "[3]"):
+            with self.subTest(also=bad):
+                self.expect_row('["smooth_commands"]', bad, "aggregate", "also must be a list of names of tables, not [")
+
+    def test_log_source_with_double_quotes(self):
+        self.expect("smooth_commands.toml: ", "log_source must be a path without double quotes",
+                    smooth=once(SMOOTH, r"'Local\smooth_commands'", "'Local\"commands'"))
+
+    def test_log_line_beyond_32_bits(self):
+        self.expect_row("log_line = 1089", "log_line = 2147483648", "DV_", "log_line must be a line number")
+
+    def test_number_that_python_does_not_print(self):
+        digits = "f" * 4000
+        for old, place in (("log_line = 1089", "DV_"), ("log_line = 4353", "FILTER_")):
+            with self.subTest(place=place):
+                self.expect_row(old, f"log_line = 0x{digits}", place, "not a number of more than 64 bits")
+        self.expect_row("YES = 84", f"YES = 0x{digits}", "enumerators.no_yes", "not a number of more than 64 bits")
+
+    def test_number_that_python_does_not_read(self):
+        self.expect("gyre_commands.toml: ", "digits", gyre=once(GYRE, "YES = 84", "YES = " + "9" * 5000))
+
+    def test_lists_in_lists_without_end(self):
+        for opening in ("[", "{ a = "):
+            with self.subTest(opening=opening):
+                self.expect("gyre_commands.toml: ", "lists or tables stand in each other too deeply",
+                            gyre=once(GYRE, "YES = 84", "YES = " + opening * 5000))
+
+    def test_names_with_control_characters_are_shown_on_one_line(self):
+        self.expect_row('key = "INITIAL_"', r'key = "INI\nTIAL_"', r"DV_: 'INI\nTIAL_'", "key must be one line")
+        self.expect_row('class = "DV_"', r'class = "D\u001bV_"', r"'D\x1bV_'", "class must be one line")
+        self.expect_row("YES = 84", r'"Y\nES" = 84', "enumerators.no_yes", r"'Y\nES' is not of the form")
+        self.expect_row("log_line = 1089", 'log_line = 1089\n"ba\\nse" = 3', "DV_", r"there is no column 'ba\nse'")
+
+    def test_what_is_long_is_shown_shortened(self):
+        for old, new, place in (('key = "INITIAL_"', f'key = "{"i" * 3000}"', "DV_: 'iii"),
+                                ('"Start value."', f'"{"Start " * 3000}"', "DV_: INITIAL_: "),
+                                ("YES = 84", f"YES = [{'84, ' * 3000}]", "enumerators.no_yes: ")):
+            with self.subTest(place=place), self.assertRaises(table.TableError) as caught:
+                read(once(GYRE, old, new))
+            text = str(caught.exception)
+            self.assertTrue(text.startswith(f"gyre_commands.toml: {place}"), text)
+            self.assertLess(len(text), 400)
+
     def test_toml_syntax_error(self):
         self.expect("gyre_commands.toml: ", "at line 20", gyre=once(GYRE, 'count = "any"\n', 'count = "any\n'))
 
@@ -411,6 +455,14 @@ class WrongTableAtTheCommandLine(unittest.TestCase):
             ended = run("--library", library, "--check")
             self.assertEqual(ended.returncode, 2)
             self.assertIn("smooth_commands.toml", ended.stderr)
+            self.assertNotIn("Traceback", ended.stderr)
+
+    def test_stops_where_a_file_cannot_be_written(self):
+        with folder() as library:
+            write_tables(library, smooth=once(SMOOTH, 'class = "SMOOTH_"', f'class = "{"S" * 300}_"'))
+            ended = run("--library", library, "--write")
+            self.assertEqual(ended.returncode, 2)
+            self.assertIn("File name too long", ended.stderr)
             self.assertNotIn("Traceback", ended.stderr)
 
     def test_stops_where_a_table_is_no_text(self):

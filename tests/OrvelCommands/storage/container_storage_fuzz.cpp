@@ -8,6 +8,7 @@
 #include "OrvelCommands/storage/OrvelParfileStorageCmdContainer.h"
 #include "OrvelUtilities/KLV_LogMacros.h"
 #include "support/OpenDatabase.h"
+#include "support/parsed_commands.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -56,14 +57,23 @@ class Builder
 public:
   explicit Builder(OrvelCmdContainer& container) : m_container(container) {}
 
+  // The least that loads, so that a program need not find it before anything can be linked and checked.
+  void BeginWithJob()
+  {
+    OrvelCmd& task = Add(OrvelCmdDefs::OPTIMIZE, "a");
+    Add(OrvelCmdDefs::MODEL_INPUT, "a");
+    task.AddReferenceItem(OrvelCmdItemDefs::OBJ_FUNC, Add(OrvelCmdDefs::OBJ_FUNC, "a"));
+    task.AddReferenceItem(OrvelCmdItemDefs::DV, Add(OrvelCmdDefs::DV, "a"));
+    task.AddReferenceItem(OrvelCmdItemDefs::STOP, Add(OrvelCmdDefs::STOP, "a"));
+  }
+
   void Carry(Program& program)
   {
     const std::uint8_t operation = program.Byte() % 10;
     if (operation < 2 || m_commands.empty())
     {
       const auto kind = static_cast<OrvelCmdDefs::Cmd>(program.Byte() % OrvelCmdDefs::CMD_NONE);
-      m_commands.push_back(&m_container.AddCommand(kind));
-      m_commands.back()->AddStringItem(OrvelCmdItemDefs::ID_NAME, program.Text());
+      Add(kind, program.Text());
       return;
     }
     OrvelCmd& command = *m_commands[program.Byte() % m_commands.size()];
@@ -82,6 +92,12 @@ public:
   }
 
 private:
+  OrvelCmd& Add(OrvelCmdDefs::Cmd kind, const std::string& id)
+  {
+    m_commands.push_back(&AddParsed(m_container, kind, id));
+    return *m_commands.back();
+  }
+
   void Remove(OrvelCmd& command, std::uint8_t position)
   {
     const OrvelCmdDefs::Cmd kind = command.GetCmd();
@@ -126,31 +142,51 @@ void Load(OrvelParfileStorageCmdContainer& storage)
   });
 }
 
+void AskForKey(const OrvelParfileStorageCmdContainer& storage, const std::string& kind, const std::string& id,
+               const std::string& key)
+{
+  Try([&] { storage.GetNumElements(kind, id, key); });
+  for (const std::uint64_t index : {0, 1, 2, 1000})
+  {
+    int number = 0;
+    double real = 0;
+    std::string text;
+    std::vector<int> list;
+    Try([&] { storage.GetValue(kind, id, key, index, vtmInteger, number); });
+    Try([&] { storage.GetEnumValue(kind, id, key, index, vtmEnum, number); });
+    Try([&] { storage.GetValue(kind, id, key, index, vtmDouble, real); });
+    Try([&] { storage.GetValue(kind, id, key, index, vtmString, text); });
+    Try([&] { storage.GetValue(kind, id, key, index, vtmIntegerList, list); });
+    Try([&] { storage.GetReference(kind, id, key, index, text); });
+  }
+}
+
+void AskForCommand(const OrvelParfileStorageCmdContainer& storage, const orvel::schema::Command& command,
+                   std::uint64_t position)
+{
+  const std::string kind(command.kind);
+  std::string id;
+  Try([&] { storage.GetCommandName(kind, position, id); });
+  for (const orvel::schema::Field& field : command.fields)
+  {
+    AskForKey(storage, kind, id, std::string(field.key));
+  }
+}
+
+// The first and the last command of each kind that has any: asking for the others takes most of the time and finds
+// the same.
 void AskForAll(const OrvelParfileStorageCmdContainer& storage)
 {
   for (const orvel::schema::Command& command : orvel::schema::Commands())
   {
-    const std::string kind(command.kind);
-    std::string id;
-    Try([&] { storage.GetCommandName(kind, 0, id); });
-    for (const orvel::schema::Field& field : command.fields)
+    const std::uint64_t count = storage.GetNumCommand(std::string(command.kind));
+    if (count > 0)
     {
-      const std::string key(field.key);
-      for (const std::uint64_t index : {0, 1, 2, 1000})
-      {
-        int number = 0;
-        double real = 0;
-        std::string text;
-        std::vector<int> list;
-        Try([&] { storage.GetNumElements(kind, id, key); });
-        Try([&] { storage.GetValue(kind, id, key, index, vtmInteger, number); });
-        Try([&] { storage.GetEnumValue(kind, id, key, index, vtmEnum, number); });
-        Try([&] { storage.GetValue(kind, id, key, index, vtmDouble, real); });
-        Try([&] { storage.GetValue(kind, id, key, index, vtmString, text); });
-        Try([&] { storage.GetValue(kind, id, key, index, vtmIntegerList, list); });
-        Try([&] { storage.GetReference(kind, id, key, index, text); });
-      }
+      AskForCommand(storage, command, 0);
+      AskForCommand(storage, command, count - 1);
     }
+    std::string id;
+    Try([&] { storage.GetCommandName(std::string(command.kind), count, id); });
   }
 }
 
@@ -160,9 +196,18 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 {
   KLV_LogMacros::SetSink([](const KLV_LogRecord&) {});
   OpenDatabase database;
+  for (const KLV_IdType type : {KLV_IdType::element_group, KLV_IdType::node_group, KLV_IdType::face_group})
+  {
+    database.Add(type, {"a", "b"});
+  }
   OrvelCmdContainer container;
   Builder builder(container);
-  for (Program program(data, size); !program.HasEnded();)
+  Program program(data, size);
+  if (program.Byte() % 4 != 0)
+  {
+    builder.BeginWithJob();
+  }
+  while (!program.HasEnded())
   {
     Try([&] { builder.Carry(program); });  // some items are refused
   }

@@ -640,6 +640,27 @@ class UnusableInputs(ImportTest):
         self.assertEqual((UNUSABLE, ""), (result.code, result.out))
         self.assertRegex(result.err, r"^job\.toml:\d+:\d+: ")
 
+    def test_keys_of_more_parts_than_the_stack_has_room_for(self):
+        for text in ("[" + "a." * 200000 + "a]\n", "[[" + "a." * 200000 + "a]]\n",
+                     "[DV_.porosity]\nINITIAL_" + " . a" * 200000 + " = 1\n",
+                     '[DV_.porosity]\nINITIAL_ = { a = """b"""", b' + ".a" * 200000 + " = 1 }\n",
+                     "[DV_.porosity]\nINITIAL_ = { a" + ".\"b\".'c'" * 200000 + " = 1 }\n"):
+            with self.subTest(text[:40]):
+                self.write("job.toml", text)
+                self.assert_unusable("job.toml: a key has more than 16 parts\n", "import", "job.toml")
+
+    def test_a_key_of_many_parts_is_a_fault_like_others(self):
+        self.write("job.toml", MODEL + "[DV_.porosity.a.b.c.d.e.f.g.h.i.j.k.l.m.n]\n")
+        self.assertEqual(FAULTS, self.tool("import", "job.toml").code)
+
+    def test_points_in_texts_and_comments_are_no_parts_of_a_key(self):
+        points = ".a" * 50
+        for pattern in ('"*"', "'*'", r'"\"*"', r"'\' # *", r'"""a"*"\"*"""', r'"""\"""*"""', "'''\n'*'\n*'''", '"" # *'):
+            with self.subTest(pattern):
+                text = pattern.replace("*", points)
+                self.write("job.toml", f"# {points}\n[MODEL_.duct]\nFILE_ = {text}\n")
+                self.assertEqual(GOOD, self.tool("import", "job.toml", "--force").code)
+
     def test_a_job_that_is_not_there(self):
         self.assert_unusable("job.toml: the file cannot be read\n", "import", "job.toml")
 

@@ -301,9 +301,9 @@ private:
     if (H5Tget_sign(type) == H5T_SGN_NONE)
     {
       std::vector<std::uint64_t> elements(count);
-      const auto most = static_cast<std::uint64_t>(std::numeric_limits<std::int64_t>::max());
+      constexpr auto most = static_cast<std::uint64_t>(std::numeric_limits<std::int64_t>::max());
       if (!ReadElements(dataset, H5T_NATIVE_UINT64, elements) ||
-          std::any_of(elements.begin(), elements.end(), [most](std::uint64_t element) { return element > most; }))
+          std::any_of(elements.begin(), elements.end(), [](std::uint64_t element) { return element > most; }))
       {
         return false;
       }

@@ -9,7 +9,8 @@
 #include <utility>
 #include <vector>
 
-/// Throws: UnusableInput with file, line and column for a file that cannot be read or is no TOML.
+/// Throws: UnusableInput with file, line and column for a file that cannot be read or is no TOML; with the file for
+/// one with a key of very many parts, "a.b.c.".
 toml::table ReadToml(const std::filesystem::path& path);
 
 /// "file:line:column"

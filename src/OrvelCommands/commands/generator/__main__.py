@@ -63,6 +63,19 @@ def check(outputs):
     return bool(found)
 
 
+def carry_out(options):
+    tables = read_tables([options.library / "commands" / f"{name}.toml" for name in TABLES])
+    outputs = {options.library: make_outputs(tables)}
+    python = options.python or python_folder(options.library)
+    if python:
+        outputs[python] = make_python_outputs(tables)
+    if options.check:
+        return 1 if check(outputs) else 0
+    for folder, texts in outputs.items():
+        write(folder, texts)
+    return 0
+
+
 def main():
     parser = argparse.ArgumentParser(prog="generator", description=__doc__)
     parser.add_argument("--library", type=Path, default=LIBRARY, help="the folder src/OrvelCommands")
@@ -70,21 +83,11 @@ def main():
     mode = parser.add_mutually_exclusive_group(required=True)
     mode.add_argument("--write", action="store_true", help="write the files that differ")
     mode.add_argument("--check", action="store_true", help="show what differs and fail if anything does")
-    options = parser.parse_args()
     try:
-        tables = read_tables([options.library / "commands" / f"{name}.toml" for name in TABLES])
-        outputs = {options.library: make_outputs(tables)}
-        python = options.python or python_folder(options.library)
-        if python:
-            outputs[python] = make_python_outputs(tables)
+        return carry_out(parser.parse_args())
     except (TableError, TemplateError, OSError) as error:
         print(error, file=sys.stderr)
         return 2
-    if options.check:
-        return 1 if check(outputs) else 0
-    for folder, texts in outputs.items():
-        write(folder, texts)
-    return 0
 
 
 if __name__ == "__main__":
