@@ -94,7 +94,9 @@ private:
 void WriteMutatedCase(const std::string& path, const std::vector<std::string>& sound_files, std::uint64_t number)
 {
   Numbers numbers(kMutatedSequence + number);
-  std::string bytes = numbers.Choose(sound_files);
+  // A small job takes a tenth of the time of a whole one and has every form of HDF5's structures.
+  const std::size_t candidates = sound_files.size() - (numbers.OneIn(20) ? 0 : kWholeJobs);
+  std::string bytes = sound_files[numbers.Below(candidates)];
   Mutator mutator(bytes, numbers);
   if (numbers.OneIn(50))
   {

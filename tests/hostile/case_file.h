@@ -3,6 +3,7 @@
 /// One thread at a time.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -11,7 +12,10 @@
 /// Throws: std::runtime_error when HDF5 cannot make the file.
 void WriteStructuredCase(const std::string& path, std::uint64_t number);
 
-/// The sound files that mutated cases start from, as bytes. They are made at \p path.
+/// So many of the sound files are whole jobs.
+constexpr std::size_t kWholeJobs = 3;
+
+/// The sound files that mutated cases start from, as bytes, the whole jobs last. They are made at \p path.
 std::vector<std::string> SoundFiles(const std::string& path);
 
 /// A sound file with some of its bytes changed.

@@ -71,7 +71,7 @@ TEST_F(HostileFiles, AreLoadedCheckedAndShownWhereTheyAreSound)
   H5::Exception::dontPrint();
   const std::vector<std::string> sound = SoundFiles(kFile);
   ASSERT_EQ(sound.size(), 14U);
-  for (std::size_t i = sound.size() - 3; i < sound.size(); ++i)
+  for (std::size_t i = sound.size() - kWholeJobs; i < sound.size(); ++i)
   {
     std::filesystem::remove(kFile);
     std::ofstream(kFile, std::ios::binary) << sound[i];
