@@ -68,7 +68,7 @@ OrvelParfileStorageCmdContainer::~OrvelParfileStorageCmdContainer() = default;
 // is not found is how the handler of its key knows it.
 void OrvelParfileStorageCmdContainer::MapIdNamesToPosition()
 {
-  for (std::size_t number = 0; number < kNumberOfKinds; ++number)
+  for (std::size_t number = 0; number < Defs::CMD_NONE; ++number)
   {
     const auto kind = static_cast<Cmd>(number);
     const std::uint64_t count = m_cmd_container->GetNumberOfCommands(kind);
@@ -198,18 +198,8 @@ OrvelCmdDefs::Cmd OrvelParfileStorageCmdContainer::GetCmdType(const std::string&
 
 const OrvelCmd* OrvelParfileStorageCmdContainer::GetCmdObject(Cmd kind, const std::string& id_name) const
 {
-  if (kind == Defs::CMD_NONE)
-  {
-    return nullptr;
-  }
   const std::uint64_t* position = m_id_positions[kind].Find(id_name);
   return position != nullptr ? &m_cmd_container->_GetCommand(kind, *position) : nullptr;
-}
-
-const OrvelCmd* OrvelParfileStorageCmdContainer::GetCmdObject(const std::string& command,
-                                                              const std::string& id_name) const
-{
-  return GetCmdObject(GetCmdType(command), id_name);
 }
 
 bool OrvelParfileStorageCmdContainer::ConsiderAsList(const ItemSequence& items, Cmd kind, CmdItem item) const
@@ -222,10 +212,6 @@ void OrvelParfileStorageCmdContainer::ReadItems(const std::string& command, cons
                                                 const std::string& key, const Reader& reader) const
 {
   const Cmd kind = GetCmdType(command);
-  if (kind == Defs::CMD_NONE)
-  {
-    return;
-  }
   const ItemMapping* mapping = m_key_mappings[kind].Find(key);
   if (mapping == nullptr)
   {
@@ -245,27 +231,23 @@ void OrvelParfileStorageCmdContainer::ReadItems(const std::string& command, cons
 void OrvelParfileStorageCmdContainer::ReadDerivedItems(const ItemMapping& mapping, const OrvelCmd* cmd,
                                                        const ItemReader& reader) const
 {
-  switch (mapping.mode)
+  if (mapping.mode == ItemMappingMode::FilteredItem)
   {
-    case ItemMappingMode::FilteredItem:
-      if (cmd != nullptr)
-      {
-        reader(ItemSequence(FilteredItemsOf(*cmd, mapping)), mapping.value_item);
-      }
-      return;
-    case ItemMappingMode::ReferencedItem:
-      if (const OrvelCmd* target = ReferencedCommand(mapping))
-      {
-        reader(ItemSequence(target->Items(mapping.target_item)), mapping.target_item);
-      }
-      return;
-    case ItemMappingMode::CustomItem:
-      if (mapping.handler != nullptr)
-      {
-        mapping.handler(cmd, mapping.item, *m_cmd_container, reader);
-      }
-      return;
-    case ItemMappingMode::DirectItem: return;  // read by the caller
+    if (cmd != nullptr)
+    {
+      reader(ItemSequence(FilteredItemsOf(*cmd, mapping)), mapping.value_item);
+    }
+  }
+  else if (mapping.mode == ItemMappingMode::ReferencedItem)
+  {
+    if (const OrvelCmd* target = ReferencedCommand(mapping))
+    {
+      reader(ItemSequence(target->Items(mapping.target_item)), mapping.target_item);
+    }
+  }
+  else if (mapping.handler != nullptr)
+  {
+    mapping.handler(cmd, mapping.item, *m_cmd_container, reader);
   }
 }
 

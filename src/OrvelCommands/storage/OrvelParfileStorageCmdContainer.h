@@ -133,7 +133,8 @@ private:
   using ItemReader = orvel::detail::ItemReader;
   using KeyTable = orvel::detail::NameTable<ItemMapping>;
 
-  static constexpr std::size_t kNumberOfKinds = OrvelCmdDefs::CMD_NONE;
+  // With CMD_NONE, which has neither ids nor keys.
+  static constexpr std::size_t kNumberOfKinds = OrvelCmdDefs::CMD_NONE + 1;
 
   /// \name The tables, in OrvelParfileStorageCmdContainer_tables.cpp
   /// @{
@@ -165,7 +166,6 @@ private:
 
   Cmd GetCmdType(const std::string& command) const;
   const OrvelCmd* GetCmdObject(Cmd kind, const std::string& id_name) const;
-  const OrvelCmd* GetCmdObject(const std::string& command, const std::string& id_name) const;
   bool ConsiderAsList(const ItemSequence& items, Cmd kind, CmdItem item) const;
 
   // Hands the items of a key to the reader, with the kind of the command and the kind of item that they are.

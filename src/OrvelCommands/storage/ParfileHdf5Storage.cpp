@@ -39,6 +39,20 @@ auto Guarded(const FailureText& failure, Action action) -> decltype(action())
   }
 }
 
+// Runs an action and hands the one class of HDF5 failure that it names to the handler; all others pass.
+template <class Caught, class Action, class Handler>
+void Handled(Action action, Handler handler)
+{
+  try
+  {
+    action();
+  }
+  catch (const Caught& error)
+  {
+    handler(error);
+  }
+}
+
 std::string GroupPath(const std::string& command, const std::string& id_name)
 {
   return command + "/" + id_name;
@@ -541,28 +555,18 @@ void ParfileHdf5Storage::AddCommand(const std::string& command, const std::strin
 void ParfileHdf5Storage::AddReference(const std::string& command, const std::string& id_name, const std::string& key,
                                       const std::string& target_command, const std::string& target_id_name) const
 {
-  const auto fail_on_target = [&] {
+  const auto fail_on_target = [&](const H5::Exception&) {
     Fail(hdf5_failures::kReferenceTarget, {target_command, target_id_name, command, id_name});
   };
   hobj_ref_t reference = 0;
-  try
-  {
+  const auto refer_to_target = [&] {
     m_parfile_group.reference(&reference, PARFILE_GROUP + "/" + GroupPath(target_command, target_id_name), H5R_OBJECT);
-  }
-  catch (const H5::IdComponentException&)
-  {
-    fail_on_target();
-  }
-  catch (const H5::ReferenceException&)  // the binding's class for it has moved between versions
-  {
-    fail_on_target();
-  }
-  catch (const H5::Exception& error)
-  {
-    Fail(hdf5_failures::kReference, {error.getCDetailMsg()});
-  }
+  };
   std::size_t position = 0;
   H5::DataSet dataset = Guarded<H5::Exception>(hdf5_failures::kReference, [&] {
+    // The binding's class for a target that is not there has moved between versions.
+    Handled<H5::IdComponentException>([&] { Handled<H5::ReferenceException>(refer_to_target, fail_on_target); },
+                                      fail_on_target);
     return OpenForAppend(m_parfile_group.openGroup(GroupPath(command, id_name)), key, H5::PredType::STD_REF_OBJ,
                          position);
   });

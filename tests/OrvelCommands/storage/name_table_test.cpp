@@ -97,6 +97,16 @@ TEST(NameTable, FindsEachOfManyNames)
   ExpectAllFound(names);
 }
 
+TEST(NameTable, TellsManyNamesApartThatDifferInTheirMiddleAlone)
+{
+  std::vector<std::string> names;
+  for (int number = 10000; number < 20000; ++number)
+  {
+    names.push_back("response_" + std::to_string(number) + "_pressure_drop");
+  }
+  ExpectAllFound(names);
+}
+
 TEST(NameTable, ACopyFindsWhatTheOriginalFinds)
 {
   NameTable<int> table({{"TYPE_", 1}});
