@@ -132,17 +132,16 @@ void WriteWithDemandedCalls(const std::filesystem::path& file, const std::vector
     for (const JobKey& key : command.keys)
     {
       const std::string name(key.field->key);
-      for (const JobItem& item : key.items)
+      for (const JobValue& value : key.values)
       {
         if (key.field->type == vtmReference)
         {
           writer.AddReference(path, name,
-                              "/PARFILE/" + std::string(key.field->target) + "/" + std::get<std::string>(item.value));
+                              "/PARFILE/" + std::string(key.field->target) + "/" + std::get<std::string>(value));
           continue;
         }
         Buffer buffer;
-        std::visit([&](const auto& value) { writer.AddValue(path, name, key.field->type, buffer.Of(value)); },
-                   item.value);
+        std::visit([&](const auto& one) { writer.AddValue(path, name, key.field->type, buffer.Of(one)); }, value);
       }
     }
   }

@@ -48,7 +48,7 @@ std::vector<DatasetPlace> PlacesOf(const std::vector<JobCommand>& job)
     const std::string group = "/PARFILE/" + std::string(command.kind->kind) + "/" + command.id + "/";
     for (const JobKey& key : command.keys)
     {
-      if (!key.items.empty())
+      if (!key.values.empty())
       {
         places.push_back({group + std::string(key.field->key), key.field->type});
       }

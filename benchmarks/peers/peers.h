@@ -3,8 +3,8 @@
 /// a file that does not hold a generated job.
 #pragma once
 
-#include "job_description.h"
 #include "peers/plain_job.h"
+#include "support/example_job.h"
 
 #include <hdf5.h>
 
@@ -15,6 +15,10 @@
 
 namespace plain
 {
+
+using benchmarks::JobCommand;
+using benchmarks::JobKey;
+using benchmarks::JobValue;
 
 /// Reads a parameter file with the calls of HDF5's C interface that the storage's contract demands for each value: the
 /// group of the command opened, its names walked, the type made, the dataset opened by its path, one element selected

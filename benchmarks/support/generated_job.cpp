@@ -99,7 +99,7 @@ private:
   JobCommand Copy(const JobCommand& prototype, std::size_t number) const
   {
     const std::size_t round = number / m_prototypes.at(prototype.kind->kind).size();
-    JobCommand copy{prototype.kind, IdAt(prototype.kind->kind, number), {}, prototype.place};
+    JobCommand copy{prototype.kind, IdAt(prototype.kind->kind, number), {}};
     for (const JobKey& key : prototype.keys)
     {
       if (key.field->type != vtmReference)
@@ -122,24 +122,22 @@ private:
     {
       for (std::size_t number = 0; number < m_counts.at(target); ++number)
       {
-        copy.items.push_back({IdAt(target, number), {}});
+        copy.values.emplace_back(IdAt(target, number));
       }
       return copy;
     }
-    for (const JobItem& item : key.items)
+    for (const JobValue& reference : key.values)
     {
-      const std::size_t number = round * m_prototypes.at(target).size() + PlaceOf(target, item);
-      copy.items.push_back({IdAt(target, number % m_counts.at(target)), item.place});
+      const std::size_t number = round * m_prototypes.at(target).size() + PlaceOf(target, reference);
+      copy.values.emplace_back(IdAt(target, number % m_counts.at(target)));
     }
     return copy;
   }
 
-  std::size_t PlaceOf(Kind kind, const JobItem& reference) const
+  std::size_t PlaceOf(Kind kind, const JobValue& reference) const
   {
     const auto& prototypes = m_prototypes.at(kind);
-    const auto is_target = [&](const JobCommand* command) {
-      return command->id == std::get<std::string>(reference.value);
-    };
+    const auto is_target = [&](const JobCommand* command) { return command->id == std::get<std::string>(reference); };
     return std::find_if(prototypes.begin(), prototypes.end(), is_target) - prototypes.begin();
   }
 
@@ -161,7 +159,7 @@ std::size_t CountValues(const std::vector<JobCommand>& job)
   {
     for (const JobKey& key : command.keys)
     {
-      values += key.items.size();
+      values += key.values.size();
     }
   }
   return values;
@@ -179,16 +177,14 @@ void WriteToStorage(const std::vector<JobCommand>& job, OrvelParfileStorage& sto
     for (const JobKey& key : command.keys)
     {
       const std::string name(key.field->key);
-      for (const JobItem& item : key.items)
+      for (const JobValue& value : key.values)
       {
         if (key.field->type == vtmReference)
         {
-          storage.AddReference(kind, command.id, name, std::string(key.field->target),
-                               std::get<std::string>(item.value));
+          storage.AddReference(kind, command.id, name, std::string(key.field->target), std::get<std::string>(value));
           continue;
         }
-        std::visit([&](const auto& value) { storage.AddValue(kind, command.id, name, key.field->type, value); },
-                   item.value);
+        std::visit([&](const auto& one) { storage.AddValue(kind, command.id, name, key.field->type, one); }, value);
       }
     }
   }
@@ -204,10 +200,10 @@ nlohmann::json AsJson(const std::vector<JobCommand>& job)
     for (const JobKey& key : command.keys)
     {
       nlohmann::json& values = keys[std::string(key.field->key)];
-      for (const JobItem& item : key.items)
+      for (const JobValue& read : key.values)
       {
         nlohmann::json value;
-        std::visit([&](const auto& one) { value = one; }, item.value);
+        std::visit([&](const auto& one) { value = one; }, read);
         if (key.field->presence == schema::Presence::Repeated)
         {
           values.push_back(std::move(value));

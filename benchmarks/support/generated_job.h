@@ -2,9 +2,9 @@
 /// Jobs of any size for measurements, grown from an example. One thread at a time.
 #pragma once
 
-#include "job_description.h"
 #include "OrvelCmdEngine/OrvelCmdContainer.h"
 #include "OrvelCommands/foundation/OrvelParfileStorage.h"
+#include "support/example_job.h"
 
 #include <nlohmann/json.hpp>
 

@@ -16,7 +16,7 @@ namespace
 
 const std::vector<JobCommand>& BentDuct()
 {
-  static const std::vector<JobCommand> example = ReadJobDescription(ORVEL_BENT_DUCT_JOB);
+  static const std::vector<JobCommand> example = ReadExample(ORVEL_BENT_DUCT_JOB);
   return example;
 }
 

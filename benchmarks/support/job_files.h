@@ -2,7 +2,7 @@
 /// Where the files of the generated jobs lie. One thread at a time.
 #pragma once
 
-#include "job_description.h"
+#include "support/example_job.h"
 
 #include <cstddef>
 #include <filesystem>

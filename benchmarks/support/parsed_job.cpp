@@ -129,9 +129,9 @@ const JobKey* FindKey(const JobCommand& command, std::string_view name)
   return found != command.keys.end() ? &*found : nullptr;
 }
 
-const std::string& Text(const JobItem& item)
+const std::string& Text(const JobValue& value)
 {
-  return std::get<std::string>(item.value);
+  return std::get<std::string>(value);
 }
 
 bool IsGroup(const JobCommand& command)
@@ -182,13 +182,13 @@ bool IsAbsentFromEngine(const JobCommand& command)
 // The design variable of ALGO_ merges all others, as the storage has it where OPTIMIZE names several.
 void MergeDesignVariables(std::vector<JobCommand>& job)
 {
-  const std::string merged = Text(FindKey(OfKind(job, "ALGO_"), "DV_")->items.front());
+  const std::string merged = Text(FindKey(OfKind(job, "ALGO_"), "DV_")->values.front());
   JobKey members{orvel::schema::FindField(*OfKind(job, "DV_").kind, "DV_"), {}};
   for (const JobCommand& command : job)
   {
     if (command.kind->kind == "DV_" && command.id != merged)
     {
-      members.items.push_back({command.id, {}});
+      members.values.emplace_back(command.id);
     }
   }
   for (JobCommand& command : job)
@@ -207,7 +207,7 @@ public:
 
   void Fill(const std::vector<JobCommand>& job)
   {
-    const std::string merged = Text(FindKey(OfKind(job, "ALGO_"), "DV_")->items.front());
+    const std::string merged = Text(FindKey(OfKind(job, "ALGO_"), "DV_")->values.front());
     for (const JobCommand& command : job)
     {
       const auto kind = Kinds().find(std::string(command.kind->kind));
@@ -263,9 +263,9 @@ private:
       if (const JobKey* operands = FindKey(command, format.key))
       {
         std::vector<std::string> names;
-        for (const JobItem& item : operands->items)
+        for (const JobValue& name : operands->values)
         {
-          names.push_back(Text(item));
+          names.push_back(Text(name));
         }
         cmd.AddEnumItem(Item::FORMAT, format.format);
         cmd.AddStringListItem(Item::LIST_BEGIN, names);
@@ -285,7 +285,7 @@ private:
 
   void AddReferences(OrvelCmd& cmd, Item::CmdItem item, const JobKey& key)
   {
-    for (const JobItem& reference : key.items)
+    for (const JobValue& reference : key.values)
     {
       cmd.AddReferenceItem(item, *m_commands.at({key.field->target, Text(reference)}));
     }
@@ -298,13 +298,13 @@ private:
       AddReferences(cmd, item, key);
       return;
     }
-    for (const JobItem& value : key.items)
+    for (const JobValue& value : key.values)
     {
       switch (key.field->type)
       {
-        case vtmEnum: cmd.AddEnumItem(item, static_cast<Item::EnumValue>(std::get<int>(value.value))); break;
-        case vtmInteger: cmd.AddIntegerItem(item, std::get<int>(value.value)); break;
-        case vtmDouble: cmd.AddDoubleItem(item, std::get<double>(value.value)); break;
+        case vtmEnum: cmd.AddEnumItem(item, static_cast<Item::EnumValue>(std::get<int>(value))); break;
+        case vtmInteger: cmd.AddIntegerItem(item, std::get<int>(value)); break;
+        case vtmDouble: cmd.AddDoubleItem(item, std::get<double>(value)); break;
         default: cmd.AddStringItem(item, Text(value)); break;
       }
     }
@@ -336,7 +336,7 @@ std::vector<JobCommand> ParsedPart(const std::vector<JobCommand>& job)
     {
       continue;
     }
-    JobCommand copy{command.kind, command.id, {}, command.place};
+    JobCommand copy{command.kind, command.id, {}};
     std::copy_if(command.keys.begin(), command.keys.end(), std::back_inserter(copy.keys),
                  [&](const JobKey& key) { return HasParsedForm(command, key); });
     parsed.push_back(std::move(copy));

@@ -157,17 +157,6 @@ private:
   Ends& m_ends;
 };
 
-// A storage that could not be made keeps its file, as it documents; any other must not.
-void CloseWhatTheConstructorLeft()
-{
-  hid_t ids[64];
-  const ssize_t count = H5Fget_obj_ids(static_cast<hid_t>(H5F_OBJ_ALL), H5F_OBJ_FILE, 64, ids);
-  for (ssize_t i = 0; i < count; ++i)
-  {
-    H5Fclose(ids[i]);
-  }
-}
-
 }  // namespace
 
 Ends ExerciseFile(std::uint64_t number, bool patient, const Tell& tell)
@@ -180,7 +169,7 @@ Ends ExerciseFile(std::uint64_t number, bool patient, const Tell& tell)
     std::unique_ptr<ImpatientStorage> storage;
     if (!Note(ends, [&] { storage = std::make_unique<ImpatientStorage>(patient); }))
     {
-      CloseWhatTheConstructorLeft();
+      plain_hdf5::CloseWhatIsLeftOpen();  // as the storage documents; any other must leave nothing
       return ends;
     }
     tell("opened");

@@ -188,6 +188,16 @@ std::int64_t NumOpenTypes()
   return NumOpen(H5F_OBJ_DATATYPE);
 }
 
+void CloseWhatIsLeftOpen()
+{
+  hid_t ids[64];
+  const ssize_t count = H5Fget_obj_ids(static_cast<hid_t>(H5F_OBJ_ALL), H5F_OBJ_ALL, std::size(ids), ids);
+  for (ssize_t i = 0; i < count; ++i)
+  {
+    H5Idec_ref(ids[i]);
+  }
+}
+
 int NumHoldersOfTheOpenFile()
 {
   return Checked(H5Iget_ref(TheOpenFile()), "count the holders of the open file");

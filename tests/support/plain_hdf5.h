@@ -59,6 +59,9 @@ std::int64_t NumOpenFiles();
 /// something.
 std::int64_t NumOpenTypes();
 
+/// Gives up one hold of each of these objects, as after a storage that was never destroyed.
+void CloseWhatIsLeftOpen();
+
 /// How often the one open file is held through its identifier.
 /// Requires: one open file.
 int NumHoldersOfTheOpenFile();

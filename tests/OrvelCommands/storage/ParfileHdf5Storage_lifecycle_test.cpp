@@ -289,7 +289,7 @@ TEST_F(ParfileHdf5StorageLifecycle, LetsHdf5ReportOnStandardErrorByItself)
 
 TEST_F(ParfileHdf5StorageLifecycle, SharesOneOpenFileWithItsCopy)
 {
-  InAProcessOfItsOwn([] {
+  {
     const ParfileHdf5Storage storage = StorageWithCommand();
     const NeverDestroyed copy(storage);
     copy.storage.AddValue("DV_", "porosity", "INITIAL_", vtmDouble, 0.4);
@@ -298,7 +298,8 @@ TEST_F(ParfileHdf5StorageLifecycle, SharesOneOpenFileWithItsCopy)
     EXPECT_EQ(DoubleOf(copy.storage, "INITIAL_", 2), 0.5);
     EXPECT_EQ(plain_hdf5::NumOpenFiles(), 1);
     EXPECT_EQ(plain_hdf5::NumHoldersOfTheOpenFile(), 1) << "the file itself is not copied";
-  });
+  }
+  plain_hdf5::CloseWhatIsLeftOpen();
 }
 
 TEST_F(ParfileHdf5StorageLifecycle, SharesOneOpenFileWithWhatItIsAssignedTo)
