@@ -4,7 +4,7 @@
 #pragma once
 
 #include "job_description.h"
-#include "peers/plain_job.h"
+#include "peers/LocalGenerated/plain_commands.h"
 
 #include <hdf5.h>
 
