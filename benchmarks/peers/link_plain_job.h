@@ -2,7 +2,7 @@
 /// Links the references of a plain job. One thread at a time.
 #pragma once
 
-#include "peers/plain_job.h"
+#include "peers/LocalGenerated/plain_commands.h"
 
 #include <stdexcept>
 #include <string_view>
@@ -81,13 +81,7 @@ private:
     link.target = found->second;
   }
 
-  template <class... Commands>
-  using Tables = std::tuple<TargetsById<Commands>...>;
-
-  Tables<Model, ElementGroup, FaceGroup, NodeGroup, Dv, Dresp, Operator, ObjFunc, Constraint, Cs, DvConstraint, Monitor,
-         Algo, OptParam, Stop, MeshSmooth, Filter, PreParam, AsTopoOc, AsTopoSens, AsShapeSens, Flowpaths, Output,
-         ScalingCurve, Smooth>
-    m_commands;
+  OneOfEachKind<TargetsById> m_commands;
 };
 
 }  // namespace plain

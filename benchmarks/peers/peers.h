@@ -3,7 +3,7 @@
 /// a file that does not hold a generated job.
 #pragma once
 
-#include "peers/plain_job.h"
+#include "peers/LocalGenerated/plain_commands.h"
 #include "support/example_job.h"
 
 #include <hdf5.h>

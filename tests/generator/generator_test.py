@@ -86,6 +86,85 @@ fields = [
 ]
 """
 
+# What follows from these tables, in the file of the plain structs.
+PLAIN_COMMANDS = """\
+namespace plain
+{
+
+struct Dv;
+struct Filter;
+struct Smooth;
+
+struct Dv
+{
+  std::string id;
+  std::optional<std::string> element_group;
+  double initial = 0.0;
+  int type = 0;
+  std::optional<std::vector<int>> steps;
+  std::vector<Link<Filter>> filter;
+
+  template <class Keys>
+  void Visit(Keys& keys)
+  {
+    keys.Optional("ELEMENT_GROUP_", element_group);
+    keys.Always("INITIAL_", initial);
+    keys.Always("TYPE_", type);
+    keys.Optional("STEPS_", steps);
+    keys.Repeated("FILTER_", filter);
+  }
+};
+
+struct Filter
+{
+  std::string id;
+  std::vector<int> keep;
+
+  template <class Keys>
+  void Visit(Keys& keys)
+  {
+    keys.Repeated("KEEP_", keep);
+  }
+};
+
+struct Smooth
+{
+  std::string id;
+  int cycles = 0;
+
+  template <class Keys>
+  void Visit(Keys& keys)
+  {
+    keys.Always("CYCLES_", cycles);
+  }
+};
+
+/// All commands of a job.
+struct Job
+{
+  std::vector<Dv> dv;
+  std::vector<Filter> filter;
+  std::vector<Smooth> smooth;
+
+  template <class Action>
+  void ForEachKind(Action action)
+  {
+    action("DV_", dv);
+    action("FILTER_", filter);
+    action("SMOOTH_", smooth);
+  }
+};
+
+/// One of something for each kind of command.
+template <template <class> class OfKind>
+using OneOfEachKind = std::tuple<
+  OfKind<Dv>,
+  OfKind<Filter>,
+  OfKind<Smooth>>;
+
+}  // namespace plain
+"""
+
 NEW_ROW = '  { key = "NEW_KEY_", type = "double", presence = "always", doc = "A new number." },'
 
 NEW_COMMAND = """
@@ -853,6 +932,95 @@ class PythonModule(unittest.TestCase):
                      "def KEEP_(self) -> tuple[Enum_KEEP_, ...]:"):
             with self.subTest(line=line):
                 self.assertIn(f"    @property\n    {line}\n", stubs)
+
+
+class PlainCommands(unittest.TestCase):
+    """The plain structs of the benchmarks beside the sources of the library."""
+
+    FILE = "peers/LocalGenerated/plain_commands.h"
+
+    @contextlib.contextmanager
+    def tree(self):
+        with folder() as place:
+            library = copy_library(place / "src" / "OrvelCommands")
+            shutil.copytree(LIBRARY.parents[1] / "benchmarks" / "peers", place / "benchmarks" / "peers")
+            yield library, place / "benchmarks"
+
+    def written(self, gyre=GYRE, smooth=SMOOTH):
+        """The file as it follows from small tables."""
+        with folder() as library:
+            write_tables(library, gyre, smooth)
+            ended = run("--library", library, "--benchmarks", library / "benchmarks", "--write")
+            self.assertEqual((ended.stderr, ended.returncode), ("", 0))
+            self.assertEqual(list(contents(library / "benchmarks")), [self.FILE])
+            return (library / "benchmarks" / self.FILE).read_text(encoding="utf-8")
+
+    def test_hold_each_command_of_a_small_table(self):
+        text = self.written()
+        self.assertEqual(text[text.index("namespace plain"):].splitlines(), PLAIN_COMMANDS.splitlines())
+        head = text[:text.index("#")]
+        for origin in ("gyre_commands.toml and smooth_commands.toml", "src/OrvelCommands/commands/generator",
+                       "Do not edit: change the table and run `./run generate`."):
+            self.assertIn(origin, head)
+
+    def test_give_each_type_and_presence_its_member(self):
+        for columns, member in (
+                ('type = "int32", presence = "optional"', "std::optional<int> new_key;"),
+                ('type = "double", presence = "repeated"', "std::vector<double> new_key;"),
+                ('type = "string", presence = "always"', "std::string new_key;"),
+                ('type = "model_id", presence = "repeated", ids = "node_group"', "std::vector<std::string> new_key;"),
+                ('type = "int32_list", presence = "always"', "std::vector<int> new_key;"),
+                ('type = "double_list", presence = "optional"', "std::optional<std::vector<double>> new_key;"),
+                ('type = "enum", presence = "optional", enumerators = "no_yes"', "std::optional<int> new_key;"),
+                ('type = "reference", presence = "always", target = "DV_"', "Link<Dv> new_key;"),
+                ('type = "reference", presence = "optional", target = "DV_"', "std::optional<Link<Dv>> new_key;")):
+            with self.subTest(columns=columns):
+                row = f'  {{ key = "NEW_KEY_", {columns}, doc = "A new key." }},'
+                self.assertIn(f"\n  {member}\n", self.written(insert_first_row(GYRE, "FILTER_", row)))
+
+    def test_keep_away_from_the_words_of_the_language_and_from_their_own(self):
+        for key, member in (("CLASS_", "class_"), ("ID_", "id_"), ("KEYS_", "keys_"), ("NOT_EQ_", "not_eq_"),
+                            ("XOR_", "exclusive_or"), ("OPERATOR_", "operators"), ("NOT_", "not_"), ("NOTE_", "note")):
+            with self.subTest(key=key):
+                text = self.written(smooth=SMOOTH.replace("CYCLES_", key))
+                self.assertIn(f"\n  int {member} = 0;\n", text)
+                self.assertIn(f'\n    keys.Always("{key}", {member});\n', text)
+        for class_name, struct, member in (("JOB_", "Job_", "job"), ("LINK_", "Link_", "link"),
+                                           ("OPERATOR_", "Operator", "operators"), ("ACTION_", "Action", "action_"),
+                                           ("AS_TOPO_OC_", "AsTopoOc", "as_topo_oc"), ("RUN_2_", "Run2", "run_2")):
+            with self.subTest(class_name=class_name):
+                text = self.written(smooth=once(SMOOTH, '"SMOOTH_"', f'"{class_name}"'))
+                self.assertIn(f"\nstruct {struct}\n{{\n", text)
+                self.assertIn(f"\n  std::vector<{struct}> {member};\n", text)
+                self.assertIn(f'\n    action("{class_name}", {member});\n', text)
+
+    def test_are_fresh(self):
+        with self.tree() as (library, _):
+            ended = run("--library", library, "--check")
+            self.assertEqual((ended.stdout, ended.returncode), ("", 0))
+
+    def test_follow_one_more_number(self):
+        with self.tree() as (library, benchmarks):
+            path = library / "commands" / "smooth_commands.toml"
+            path.write_text(insert_first_row(path.read_text(encoding="utf-8"), "SMOOTH_", NEW_ROW), encoding="utf-8")
+            ended = run("--library", library, "--check")
+            self.assertEqual(ended.returncode, 1)
+            self.assertIn(f"--- {self.FILE}\n", ended.stdout)
+            before = contents(benchmarks)
+            self.assertEqual(run("--library", library, "--write").returncode, 0)
+            self.assertEqual(changes(before, contents(benchmarks)), [self.FILE])
+            self.assertIn("\n+  double new_key = 0.0;\n", ended.stdout)
+
+    def test_are_found_where_they_are_stale_and_leave_the_others_alone(self):
+        with self.tree() as (library, benchmarks):
+            current = benchmarks / self.FILE
+            shutil.copy(current, current.with_stem("old_commands"))
+            before = contents(benchmarks)
+            ended = run("--library", library, "--check")
+            self.assertEqual(ended.stdout.splitlines()[0],
+                             "peers/LocalGenerated/old_commands.h follows from no table")
+            self.assertEqual(run("--library", library, "--write").returncode, 0)
+            self.assertEqual(changes(before, contents(benchmarks)), ["-peers/LocalGenerated/old_commands.h"])
 
 
 if __name__ == "__main__":

@@ -28,6 +28,7 @@ COMMANDS = Path(__file__).resolve().parents[2] / "src" / "OrvelCommands" / "comm
 sys.path.insert(0, str(COMMANDS / "generator"))
 
 import outputs  # noqa: E402
+import plain_outputs  # noqa: E402
 import python_outputs  # noqa: E402
 import table  # noqa: E402
 
@@ -260,6 +261,7 @@ def run_case(number, tables, folder):
         require_clear(error, begin)
         return False
     require_sound(outputs.make_outputs(read))
+    require_sound(plain_outputs.make_plain_outputs(read))
     require_sound(python_outputs.make_python_outputs(read))
     return True
 

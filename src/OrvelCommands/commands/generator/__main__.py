@@ -6,6 +6,7 @@ import sys
 from pathlib import Path
 
 from outputs import COMMAND_LINE, GENERATED, GENERATOR, make_outputs
+from plain_outputs import make_plain_outputs
 from python_outputs import make_python_outputs
 from table import TableError, read_tables
 from template_text import TemplateError
@@ -14,10 +15,10 @@ LIBRARY = Path(__file__).resolve().parents[2]
 TABLES = ("gyre_commands", "smooth_commands")
 
 
-def python_folder(library):
-    """The folder of the Python module beside a library in the sources, None where there is none."""
-    folder = library.resolve().parents[1] / "python"
-    return folder if (folder / "orvelcommands").is_dir() else None
+def folder_beside(library, name, part):
+    """The folder of this name, known by a part of it, beside a library in the sources; None where there is none."""
+    folder = library.resolve().parents[1] / name
+    return folder if (folder / part).is_dir() else None
 
 
 def stale_files(folder, texts):
@@ -66,9 +67,12 @@ def check(outputs):
 def carry_out(options):
     tables = read_tables([options.library / "commands" / f"{name}.toml" for name in TABLES])
     outputs = {options.library: make_outputs(tables)}
-    python = options.python or python_folder(options.library)
+    python = options.python or folder_beside(options.library, "python", "orvelcommands")
     if python:
         outputs[python] = make_python_outputs(tables)
+    benchmarks = options.benchmarks or folder_beside(options.library, "benchmarks", "peers")
+    if benchmarks:
+        outputs[benchmarks] = make_plain_outputs(tables)
     if options.check:
         return 1 if check(outputs) else 0
     for folder, texts in outputs.items():
@@ -80,6 +84,7 @@ def main():
     parser = argparse.ArgumentParser(prog="generator", description=__doc__)
     parser.add_argument("--library", type=Path, default=LIBRARY, help="the folder src/OrvelCommands")
     parser.add_argument("--python", type=Path, help="the folder python, by default the one beside src if there is one")
+    parser.add_argument("--benchmarks", type=Path, help="the folder benchmarks, by default likewise")
     mode = parser.add_mutually_exclusive_group(required=True)
     mode.add_argument("--write", action="store_true", help="write the files that differ")
     mode.add_argument("--check", action="store_true", help="show what differs and fail if anything does")

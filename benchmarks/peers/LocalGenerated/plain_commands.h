@@ -1,22 +1,20 @@
 /// \file
 /// The commands of a job as plain structs, as a program would have them that does without the library. A key that may
 /// be absent is an optional, a key of any number of values a vector. One thread at a time.
+///
+/// Generated from gyre_commands.toml and smooth_commands.toml
+/// by src/OrvelCommands/commands/generator. Do not edit: change the table and run `./run generate`.
 #pragma once
+
+#include "peers/plain_link.h"
 
 #include <optional>
 #include <string>
+#include <tuple>
 #include <vector>
 
 namespace plain
 {
-
-/// A reference by id and, once linked, by address.
-template <class Target>
-struct Link
-{
-  std::string id;
-  const Target* target = nullptr;
-};
 
 struct Model;
 struct ElementGroup;
@@ -985,5 +983,34 @@ struct Job
     action("SMOOTH_", smooth);
   }
 };
+
+/// One of something for each kind of command.
+template <template <class> class OfKind>
+using OneOfEachKind = std::tuple<
+  OfKind<Model>,
+  OfKind<ElementGroup>,
+  OfKind<FaceGroup>,
+  OfKind<NodeGroup>,
+  OfKind<Dv>,
+  OfKind<Dresp>,
+  OfKind<Operator>,
+  OfKind<ObjFunc>,
+  OfKind<Constraint>,
+  OfKind<Cs>,
+  OfKind<DvConstraint>,
+  OfKind<Monitor>,
+  OfKind<Algo>,
+  OfKind<OptParam>,
+  OfKind<Stop>,
+  OfKind<MeshSmooth>,
+  OfKind<Filter>,
+  OfKind<PreParam>,
+  OfKind<AsTopoOc>,
+  OfKind<AsTopoSens>,
+  OfKind<AsShapeSens>,
+  OfKind<Flowpaths>,
+  OfKind<Output>,
+  OfKind<ScalingCurve>,
+  OfKind<Smooth>>;
 
 }  // namespace plain
