@@ -13,6 +13,8 @@ namespace plain_hdf5
 namespace
 {
 
+constexpr unsigned kObjects = H5F_OBJ_FILE | H5F_OBJ_GROUP | H5F_OBJ_DATASET | H5F_OBJ_ATTR;
+
 constexpr const char* kFile = "parfile_storage.hdf5";
 
 template <class Result>
@@ -175,7 +177,7 @@ Id::~Id()
 
 std::int64_t NumOpenObjects()
 {
-  return NumOpen(H5F_OBJ_FILE | H5F_OBJ_GROUP | H5F_OBJ_DATASET | H5F_OBJ_ATTR);
+  return NumOpen(kObjects);
 }
 
 std::int64_t NumOpenFiles()
@@ -191,7 +193,7 @@ std::int64_t NumOpenTypes()
 void CloseWhatIsLeftOpen()
 {
   hid_t ids[64];
-  const ssize_t count = H5Fget_obj_ids(static_cast<hid_t>(H5F_OBJ_ALL), H5F_OBJ_ALL, std::size(ids), ids);
+  const ssize_t count = H5Fget_obj_ids(static_cast<hid_t>(H5F_OBJ_ALL), kObjects, std::size(ids), ids);
   for (ssize_t i = 0; i < count; ++i)
   {
     H5Idec_ref(ids[i]);
