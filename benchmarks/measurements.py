@@ -66,6 +66,7 @@ def file_ratios(sizes):
         yield Ratio(group, "library / each dataset once, no look-up", f"LoadWithLibrary/{size}",
                     f"ReadEachDatasetOnce/{size}")
         yield Ratio(group, "h5py / library", f"h5py/{size}", f"LoadWithLibrary/{size}", at_least=5)
+        yield Ratio(group, "h5py / demanded calls in C", f"h5py/{size}", f"LoadWithDemandedCalls/{size}")
         yield Ratio(group, "library / JSON into structs", f"LoadWithLibrary/{size}", f"LoadFromJson/{size}")
 
 

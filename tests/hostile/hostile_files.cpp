@@ -36,6 +36,7 @@ struct Options
   std::uint64_t first = 0;
   std::uint64_t count = 0;
   std::string reference;
+  std::string valgrind;
   std::string tool;
   std::uint64_t tool_every = 0;
   std::string keep;
@@ -235,15 +236,22 @@ private:
                                         Limit::Full);
   }
 
+  // As it is, then with fresh memory filled, then, for a crash, watched: whether a read beside its memory kills a
+  // program is chance.
   Outcome RunReference(End expected, std::vector<std::string> arguments, Limit limit) const
   {
-    const Outcome outcome = RunProgram(m_options.reference, arguments, 0, limit);
-    if (outcome.end == expected)
+    Outcome outcome = RunProgram(m_options.reference, arguments, 0, limit);
+    if (outcome.end != expected)
     {
-      return outcome;
+      arguments.insert(arguments.begin(), "--fill");
+      outcome = RunProgram(m_options.reference, arguments, 0, limit);
     }
-    arguments.insert(arguments.begin(), "--fill");
-    return RunProgram(m_options.reference, arguments, 0, limit);
+    if (outcome.end != expected && expected == End::Crash && !m_options.valgrind.empty())
+    {
+      arguments.insert(arguments.begin(), {"--quiet", "--error-exitcode=99", m_options.reference});
+      outcome = RunProgram(m_options.valgrind, arguments, 0, limit);
+    }
+    return outcome;
   }
 
   void JudgeFully(std::uint64_t number)
@@ -376,6 +384,8 @@ int main(int argc, char** argv)
   app.add_option("first", options.first)->required();
   app.add_option("count", options.count)->required();
   app.add_option("--reference", options.reference, "The reference reader")->required()->check(CLI::ExistingFile);
+  app.add_option("--valgrind", options.valgrind, "valgrind, to watch the reference reader where a crash is chance")
+    ->check(CLI::ExistingFile);
   app.add_option("--tool", options.tool, "orvel-parfile, to be run on some cases too")->check(CLI::ExistingFile);
   app.add_option("--tool-every", options.tool_every, "Run the tool on one of so many cases");
   app.add_option("--keep", options.keep, "The folder that keeps the files of the cases that are reported");
