@@ -147,7 +147,8 @@ def rename_member(parent, key, _data, numbers):
 
 
 def wrap(parent, key, _data, numbers):
-    parent[key] = numbers.choice(([parent[key]], {"a": parent[key]}, [parent[key]] * 3, str(parent[key])))
+    value = parent[key]
+    parent[key] = numbers.choice(([value], {"a": value}, [value] * 3, type(value).__name__))
 
 
 def empty(parent, key, _data, _numbers):
