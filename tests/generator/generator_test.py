@@ -372,6 +372,12 @@ class WrongTable(unittest.TestCase):
     def test_duplicate_key(self):
         self.expect_row('key = "INITIAL_"', 'key = "TYPE_"', "DV_", "the key TYPE_ stands twice")
 
+    def test_two_keys_whose_enumerators_have_one_name(self):
+        row = '  { key = "KEEP_", type = "enum", presence = "repeated", enumerators = "no_yes", doc = "Whether to keep." },\n'
+        gyre = once(GYRE, row, row + row.replace("KEEP_", "KEEP_DEEP_"))
+        self.expect("gyre_commands.toml: FILTER_: ", "the enumerator of the class KEEP_DEEP_NO stands twice",
+                    gyre=once(gyre, "NO = 70", "NO = 70\nDEEP_NO = 71"))
+
     def test_bad_key_forms(self):
         for bad in ("INITIAL", "initial_", "INI__TIAL_", "_INITIAL_", "1ST_", "INI-TIAL_", "INITIAL_ "):
             with self.subTest(key=bad):

@@ -66,7 +66,7 @@ class Examples(PrintTest):
 
     def test_the_smoothing_job_is_good(self):
         self.copy_example("smooth")
-        counts = "1 kinds, 1 commands, 74 values (0 of them model ids), 0 references"
+        counts = "1 kind, 1 command, 74 values (0 of them model ids), 0 references"
         self.assertEqual((GOOD, f"job.toml is good: {counts}\n{NOT_CHECKED}", ""),
                          self.tool("check", "job.toml", "--job", "smooth"))
         self.tool("import", "job.toml")
@@ -374,7 +374,7 @@ class UnknownModelIds(PrintTest):
         self.write("none.toml", "# a model that knows nothing\n")
         self.assertEqual(
             (GOOD,
-             "job.toml is good: 1 kinds, 1 commands, 74 values (0 of them model ids), 0 references\n"
+             "job.toml is good: 1 kind, 1 command, 74 values (0 of them model ids), 0 references\n"
              "model ids checked against 0 names of none.toml\n", ""),
             self.tool("check", "job.toml", "--job", "smooth", "--model-ids", "none.toml"))
 

@@ -195,7 +195,7 @@ class Examples(ImportTest):
     def test_the_smoothing_job_is_counted(self):
         self.copy_example("smooth")
         self.assertEqual(
-            (GOOD, "imported job.toml: 1 kinds, 1 commands, 74 values (0 of them model ids), 0 references\n", ""),
+            (GOOD, "imported job.toml: 1 kind, 1 command, 74 values (0 of them model ids), 0 references\n", ""),
             self.tool("import", "job.toml"))
 
     def test_the_broken_bent_duct_is_refused_for_what_no_file_can_hold_and_leaves_nothing(self):
@@ -556,7 +556,7 @@ class IncompleteJobs(ImportTest):
     def test_a_key_that_must_always_be_there_is_missed_and_the_rest_is_written(self):
         self.assertEqual(
             (GOOD,
-             "imported job.toml: 1 kinds, 1 commands, 2 values (0 of them model ids), 0 references\n",
+             "imported job.toml: 1 kind, 1 command, 2 values (0 of them model ids), 0 references\n",
              "job.toml:2:1: STOP_ s lacks the key ITER_MIN_, which must always be there\n"
              "job.toml:2:1: STOP_ s lacks the key RESIDUAL_OBJ_, which must always be there\n"),
             self.import_job("\n[STOP_.s]\nITER_MAX_ = 1\nRESIDUAL_DV_ = 1.0\n"))
@@ -766,7 +766,7 @@ class ExistingFile(ImportTest):
         self.write("job.toml", MODEL)
         with open(self.place, "rb") as reader:
             self.assertEqual(
-                (GOOD, "imported job.toml: 1 kinds, 1 commands, 1 values (0 of them model ids), 0 references\n", ""),
+                (GOOD, "imported job.toml: 1 kind, 1 command, 1 value (0 of them model ids), 0 references\n", ""),
                 self.tool("import", "job.toml", "--force"))
             self.assertEqual(b"what was there", reader.read())
         self.assertEqual({"MODEL_": {"duct": {"FILE_": ("text", [b"duct.cgns\0"])}}},

@@ -67,13 +67,13 @@ class BentDuct(ShowTest):
             "MONITOR_ noise\n  DRESP_  DRESP_ noise_outlet\n\n"
             "MONITOR_ passage\n  DRESP_  DRESP_ passage_width\n\n"
             "MONITOR_ swirl\n  DRESP_  DRESP_ swirl_outlet\n\n"
-            "1 kinds, 4 commands, 0 values (0 of them model ids), 4 references\n", self.show("MONITOR_"))
+            "1 kind, 4 commands, 0 values (0 of them model ids), 4 references\n", self.show("MONITOR_"))
 
     def test_one_command(self):
         expected = (
             "DV_ porosity\n  ELEMENT_GROUP_  design_space\n  INITIAL_        0.35\n"
             "  FILTER_         FILTER_ pipe_transition\n  TYPE_           DENSITY\n\n"
-            "1 kinds, 1 commands, 3 values (1 of them model ids), 1 references\n")
+            "1 kind, 1 command, 3 values (1 of them a model id), 1 reference\n")
         self.assertEqual(expected, self.show("DV_", "porosity"))
         for file in (".", FILE_NAME, self.folder, EXAMPLES / "bent_duct" / "job.toml"):
             with self.subTest(file):
@@ -168,7 +168,7 @@ class Listing(ShowTest):
              "  TYPE_     (a dataset of rank 2, where a key has rank 1, which this tool cannot read)", "",
              "CS_ (no commands)", "",
              "/PARFILE (1 attribute, no part of the layout)", "",
-             "1 kinds, 1 commands, 0 values (0 of them model ids), 0 references"],
+             "1 kind, 1 command, 0 values (0 of them model ids), 0 references"],
             self.show().splitlines())
         self.assertEqual(
             (FAULTS, "", "/PARFILE is 1 attribute\nDV_ d: INITIAL_ is a compound of 12 bytes\n"
@@ -292,13 +292,13 @@ class LogOfTheBentDuct(ShowTest):
         self.assertEqual(
             "[%T|%n|%P|OrvelCommands|STOP_] LocalGenerated\\win_b64\\gyre_commands:3711\n"
             "m_ID_NAME_: converged\nm_ITER_MAX_: 80\nm_ITER_MIN_: 20\nm_RESIDUAL_OBJ_: 0.001\nm_RESIDUAL_DV_: 0.005\n\n"
-            "1 kinds, 1 commands, 4 values (0 of them model ids), 0 references\n", shown)
+            "1 kind, 1 command, 4 values (0 of them model ids), 0 references\n", shown)
 
     def test_shows_one_command(self):
         shown = self.log("DV_", "porosity").splitlines()
         self.assertEqual(
             ["m_ID_NAME_: porosity"], [line for line in shown if line.startswith("m_ID_NAME_")])
-        self.assertEqual("1 kinds, 1 commands, 3 values (1 of them model ids), 1 references", shown[-1])
+        self.assertEqual("1 kind, 1 command, 3 values (1 of them a model id), 1 reference", shown[-1])
 
     def test_can_be_shown_without_the_right_to_write(self):
         (self.folder / FILE_NAME).chmod(0o444)
@@ -313,7 +313,7 @@ class LogOfTheSmoothingJob(ShowTest):
         head, rest = self.log("--job", "smooth").split("\n", 1)
         text, counts = rest.split("\n\n")
         self.assertEqual("[%T|%n|%P|OrvelCommands|SMOOTH_] LocalGenerated\\win_b64\\smooth_commands:1371", head)
-        self.assertEqual("1 kinds, 1 commands, 74 values (0 of them model ids), 0 references\n", counts)
+        self.assertEqual("1 kind, 1 command, 74 values (0 of them model ids), 0 references\n", counts)
         self.assertEqual(1023, len(text))
         self.assertTrue(text.startswith(
             "m_ID_NAME_: bent_duct_surface\nm_PATCH_ID_: default\nm_TASK_: ISO\n"), text)

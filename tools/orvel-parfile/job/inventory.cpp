@@ -2,6 +2,16 @@
 
 #include <set>
 
+namespace
+{
+
+std::string Counted(std::uint64_t count, const std::string& one)
+{
+  return std::to_string(count) + " " + one + (count == 1 ? "" : "s");
+}
+
+}  // namespace
+
 Inventory CountContents(const Job& job)
 {
   Inventory inventory;
@@ -24,7 +34,8 @@ Inventory CountContents(const Job& job)
 
 std::string AsText(const Inventory& inventory)
 {
-  return std::to_string(inventory.kinds) + " kinds, " + std::to_string(inventory.commands) + " commands, " +
-         std::to_string(inventory.values) + " values (" + std::to_string(inventory.model_ids) +
-         " of them model ids), " + std::to_string(inventory.references) + " references";
+  return Counted(inventory.kinds, "kind") + ", " + Counted(inventory.commands, "command") + ", " +
+         Counted(inventory.values, "value") + " (" + std::to_string(inventory.model_ids) +
+         (inventory.model_ids == 1 ? " of them a model id" : " of them model ids") + "), " +
+         Counted(inventory.references, "reference");
 }

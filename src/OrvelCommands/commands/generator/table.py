@@ -241,6 +241,8 @@ def _read_command(place, source, row, sets):
     if not fields:
         place.fail("a command has at least one field")
     place.require_unique((field.key for field in fields), "the key")
+    place.require_unique((f"{field.key}{name}" for field in fields if field.enumerators
+                          for name, _ in field.enumerators.enumerators), "the enumerator of the class")
     log_line = place.take(row, "log_line", int, "a line number")
     if not 0 < log_line <= LARGEST_NUMBER:
         place.fail(f"log_line must be a line number, not {_shown(log_line)}")
