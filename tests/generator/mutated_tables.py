@@ -130,7 +130,7 @@ def double(parent, key, _data, numbers):
 def swap(parent, key, data, numbers):
     other = numbers.choice(list(places(data)))
     value = copy.deepcopy(at(data, other))
-    at(data, other[:-1])[other[-1]] = parent[key]
+    at(data, other[:-1])[other[-1]] = copy.deepcopy(parent[key])  # which may hold the other
     parent[key] = value
 
 
@@ -148,7 +148,7 @@ def rename_member(parent, key, _data, numbers):
 
 def wrap(parent, key, _data, numbers):
     value = parent[key]
-    parent[key] = numbers.choice(([value], {"a": value}, [value] * 3, type(value).__name__))
+    parent[key] = numbers.choice(([value], {"a": value}, [value, copy.deepcopy(value)], type(value).__name__))
 
 
 def empty(parent, key, _data, _numbers):
@@ -157,7 +157,11 @@ def empty(parent, key, _data, _numbers):
 
 def repeat(parent, key, _data, numbers):
     value = parent[key]
-    parent[key] = value * numbers.choice((2, 50)) if isinstance(value, (str, list)) else any_value(numbers)
+    if not isinstance(value, (str, list)):
+        parent[key] = any_value(numbers)
+        return
+    many = value * (numbers.choice((2, 50)) if len(value) < 20 else 2)
+    parent[key] = many if isinstance(many, str) else [copy.deepcopy(one) for one in many]
 
 
 CHANGES = (replace, replace, replace, drop, double, swap, swap_neighbours, rename_member, wrap, empty, repeat)

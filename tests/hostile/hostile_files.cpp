@@ -236,20 +236,26 @@ private:
                                         Limit::Full);
   }
 
-  // As it is, then with fresh memory filled, then, for a crash, watched: whether a read beside its memory kills a
-  // program is chance.
-  Outcome RunReference(End expected, std::vector<std::string> arguments, Limit limit) const
+  // In the ways that a crash may need: with fresh memory filled, without reading, which may hang before, and watched,
+  // as it is chance whether a read beside its memory kills a program.
+  Outcome RunReference(End expected, const std::vector<std::string>& arguments, Limit limit) const
   {
     Outcome outcome = RunProgram(m_options.reference, arguments, 0, limit);
-    if (outcome.end != expected)
+    const auto retry = [&](const std::string& program, std::vector<std::string> first) {
+      if (outcome.end != expected)
+      {
+        first.insert(first.end(), arguments.begin(), arguments.end());
+        outcome = RunProgram(program, first, 0, limit);
+      }
+    };
+    retry(m_options.reference, {"--fill"});
+    if (expected == End::Crash)
     {
-      arguments.insert(arguments.begin(), "--fill");
-      outcome = RunProgram(m_options.reference, arguments, 0, limit);
-    }
-    if (outcome.end != expected && expected == End::Crash && !m_options.valgrind.empty())
-    {
-      arguments.insert(arguments.begin(), {"--quiet", "--error-exitcode=99", m_options.reference});
-      outcome = RunProgram(m_options.valgrind, arguments, 0, limit);
+      retry(m_options.reference, {"--open"});
+      if (!m_options.valgrind.empty())
+      {
+        retry(m_options.valgrind, {"--quiet", "--error-exitcode=99", m_options.reference});
+      }
     }
     return outcome;
   }

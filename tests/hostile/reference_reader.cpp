@@ -2,10 +2,11 @@
 // does: element by element, each of the first as every type. None of our code is in it. It decides whether a file on
 // which the library dies, hangs or runs out of memory is one on which HDF5 itself does.
 //
-//   reference_reader [--fill] [--impatient] <folder>...
+//   reference_reader [--fill] [--impatient] [--open] <folder>...
 //
 // --fill fills fresh memory, so that a use of it does not go by unseen; --impatient leaves out keys of too many values,
-// as a run over many files does.
+// as a run over many files does; --open opens keys without reading them, for a file on which reading one key never
+// ends.
 #include "hostile/limits.h"
 
 #include <hdf5.h>
@@ -28,6 +29,7 @@ struct Manner
   const hid_t* begin;
   const hid_t* end;  // of the types to read as
   bool impatient;
+  bool only_open;
 };
 
 herr_t CountLink(hid_t, const char*, const H5L_info_t*, void* count)
@@ -133,7 +135,10 @@ void ReadCommand(hid_t group, Manner manner, bool all)
     const hid_t dataset = name != nullptr ? H5Dopen2(group, name, H5P_DEFAULT) : -1;
     if (dataset >= 0)
     {
-      ReadDataset(dataset, manner, all);
+      if (!manner.only_open)
+      {
+        ReadDataset(dataset, manner, all);
+      }
       H5Dclose(dataset);
     }
     free(name);
@@ -196,7 +201,7 @@ void ReadFile(Manner manner)
 
 int main(int argc, char** argv)
 {
-  Manner manner{nullptr, nullptr, false};
+  Manner manner{nullptr, nullptr, false, false};
   int next = 1;
   for (; next < argc && strncmp(argv[next], "--", 2) == 0; ++next)
   {
@@ -205,6 +210,7 @@ int main(int argc, char** argv)
       FillFreshMemory();
     }
     manner.impatient = manner.impatient || strcmp(argv[next], "--impatient") == 0;
+    manner.only_open = manner.only_open || strcmp(argv[next], "--open") == 0;
   }
   H5Eset_auto2(H5E_DEFAULT, nullptr, nullptr);
   const hid_t types[] = {H5T_NATIVE_INT,
