@@ -14,6 +14,7 @@ import random
 import shutil
 import subprocess
 import sys
+import threading
 from concurrent.futures import ThreadPoolExecutor
 from pathlib import Path
 
@@ -95,6 +96,7 @@ def digest_of_sources():
 
 def try_all(changes, results, keys, tests, jobs):
     workshops = queue.SimpleQueue()
+    writing = threading.Lock()
     for number in range(jobs):
         workshop = Workshop(number, tests)
         workshop.prepare()
@@ -103,13 +105,15 @@ def try_all(changes, results, keys, tests, jobs):
     def try_one(change):
         workshop = workshops.get()
         try:
-            results[keys[change]] = [change.name, workshop.try_out(change)]
+            finder = workshop.try_out(change)
         finally:
             workshops.put(workshop)
-        print(": ".join((change.name, results[keys[change]][1] or "SURVIVES")), flush=True)
-        written = RESULTS.with_suffix(f".{change.line}.tmp")
-        written.write_text(json.dumps(dict(results), indent=1), encoding="utf-8")
-        written.replace(RESULTS)
+        print(": ".join((change.name, finder or "SURVIVES")), flush=True)
+        with writing:
+            results[keys[change]] = [change.name, finder]
+            written = RESULTS.with_suffix(".tmp")
+            written.write_text(json.dumps(results, indent=1), encoding="utf-8")
+            written.replace(RESULTS)
 
     with ThreadPoolExecutor(jobs) as pool:
         for done in [pool.submit(try_one, change) for change in changes]:

@@ -47,9 +47,10 @@ ItemMapping OfDvUpdate(Items::CmdItem target_item)
 // clang-format off
 void OrvelParfileStorageCmdContainer::FillCommandRecords()
 {
-  const auto plain = [](Cmd kind) {
-    return CommandRecord{kind, Items::ITEM_NONE, kNoFilterValue, &PlainCount, &PlainName};
+  const auto unfiltered = [](Cmd kind, auto* count, auto* name) {
+    return CommandRecord{kind, Items::ITEM_NONE, kNoFilterValue, count, name};
   };
+  const auto plain = [&](Cmd kind) { return unfiltered(kind, &PlainCount, &PlainName); };
   const auto groups_of_type = [](Items::EnumValue type) {
     return CommandRecord{Defs::GROUP_DEF, Items::TYPE, type, &FilteredCount, &FilteredName};
   };
@@ -73,7 +74,7 @@ void OrvelParfileStorageCmdContainer::FillCommandRecords()
     {"FILTER_",        plain(Defs::FILTER)},
     {"ELEMENT_GROUP_", groups_of_type(Items::GROUP_TYPE_ELEMENT)},
     {"NODE_GROUP_",    groups_of_type(Items::GROUP_TYPE_NODE)},
-    {"DV_",            {Defs::DV, Items::ITEM_NONE, kNoFilterValue, &DvCount, &DvName}},
+    {"DV_",            unfiltered(Defs::DV, &DvCount, &DvName)},
   };
 }
 
