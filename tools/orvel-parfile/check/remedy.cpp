@@ -255,6 +255,10 @@ std::string Remedies::Replace(const JobCommand& command, const JobKey& key, std:
                               const std::string& value) const
 {
   const schema::Field& field = *FieldOf(command, key.name);
+  if (key.items.size() > kMostWords)  // Set would leave them out, and each of them may need a remedy
+  {
+    return Set(command, field, {});
+  }
   std::vector<std::string> values;
   for (std::size_t each = 0; each < key.items.size(); ++each)
   {
