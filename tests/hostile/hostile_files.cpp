@@ -236,8 +236,8 @@ private:
                                         Limit::Full);
   }
 
-  // In the ways that a crash may need: with fresh memory filled, without reading, which may hang before, and watched,
-  // as it is chance whether a read beside its memory kills a program.
+  // In the ways that an end may need: with fresh memory filled; past the file's other faults, which the library may
+  // meet later; and, for a crash, watched, as it is chance whether a read beside its memory kills a program.
   Outcome RunReference(End expected, const std::vector<std::string>& arguments, Limit limit) const
   {
     Outcome outcome = RunProgram(m_options.reference, arguments, 0, limit);
@@ -249,13 +249,12 @@ private:
       }
     };
     retry(m_options.reference, {"--fill"});
-    if (expected == End::Crash)
+    const std::string past_others = expected == End::Hang ? "--until-hang" : "--until-crash";
+    retry(m_options.reference, {past_others});
+    if (expected == End::Crash && !m_options.valgrind.empty())
     {
-      retry(m_options.reference, {"--open"});
-      if (!m_options.valgrind.empty())
-      {
-        retry(m_options.valgrind, {"--quiet", "--error-exitcode=99", m_options.reference});
-      }
+      retry(m_options.valgrind, {"--quiet", "--error-exitcode=99", m_options.reference});
+      retry(m_options.valgrind, {"--quiet", "--error-exitcode=99", m_options.reference, past_others});
     }
     return outcome;
   }
@@ -301,19 +300,21 @@ private:
   {
     const bool same = reference.end == ours.end;
     ++(same ? m_ends_of_hdf5[ours.end] : m_faults);
-    std::cout << "case " << number << ": " << NameOf(ours.end) << company << " (" << ours.detail << "); HDF5 alone "
-              << NameOf(reference.end) << " (" << reference.detail << ")" << (same ? "" : ": FAULT") << std::endl;
-    Keep(number);
+    Keep(number, NameOf(ours.end) + company + " (" + ours.detail + "); HDF5 alone " + NameOf(reference.end) + " (" +
+                   reference.detail + ")" + (same ? "" : ": FAULT"));
   }
 
-  void Keep(std::uint64_t number) const
+  // Tells how the programs ended, and lays it beside the file.
+  void Keep(std::uint64_t number, const std::string& ends) const
   {
+    std::cout << "case " << number << ": " << ends << std::endl;
     if (!m_options.keep.empty())
     {
       const std::filesystem::path folder = std::filesystem::path(m_options.keep) /
                                            ((m_options.mutated ? "mutated_" : "structured_") + std::to_string(number));
       std::filesystem::create_directories(folder);
       std::filesystem::copy_file(kFile, folder / kFile, std::filesystem::copy_options::overwrite_existing);
+      std::ofstream(folder / "ends.txt") << ends << "\n";
     }
   }
 
@@ -337,9 +338,8 @@ private:
         if (tool.end != End::Well && RunReference(tool.end, {m_folder}, Limit::Full).end != tool.end)
         {
           ++m_faults;
-          std::cout << "case " << number << ": the tool's " << subcommand << " " << NameOf(tool.end) << " ("
-                    << tool.detail << "): FAULT" << std::endl;
-          Keep(number);
+          Keep(number,
+               std::string("the tool's ") + subcommand + " " + NameOf(tool.end) + " (" + tool.detail + "): FAULT");
         }
       }
     }
@@ -394,7 +394,8 @@ int main(int argc, char** argv)
     ->check(CLI::ExistingFile);
   app.add_option("--tool", options.tool, "orvel-parfile, to be run on some cases too")->check(CLI::ExistingFile);
   app.add_option("--tool-every", options.tool_every, "Run the tool on one of so many cases");
-  app.add_option("--keep", options.keep, "The folder that keeps the files of the cases that are reported");
+  app.add_option("--keep", options.keep,
+                 "The folder that keeps the files of the cases that are reported, with how they ended");
   app
     .add_option("--patient", options.patient_cases,
                 "So many of the cases that hang, and of those that declare too many values, get all the time there is")

@@ -2,19 +2,22 @@
 // does: element by element, each of the first as every type. None of our code is in it. It decides whether a file on
 // which the library dies, hangs or runs out of memory is one on which HDF5 itself does.
 //
-//   reference_reader [--fill] [--impatient] [--open] <folder>...
+//   reference_reader [--fill] [--impatient] [--until-crash | --until-hang] <folder>...
 //
 // --fill fills fresh memory, so that a use of it does not go by unseen; --impatient leaves out keys of too many values,
-// as a run over many files does; --open opens keys without reading them, for a file on which reading one key never
-// ends.
+// as a run over many files does. --until-crash and --until-hang are for a file that has both faults, of which a program
+// meets the one that its order brings first: each group and key has a process of its own, and only the fault that is
+// asked for ends the whole.
 #include "hostile/limits.h"
 
 #include <hdf5.h>
 
 #include <malloc.h>
+#include <signal.h>
 #include <stdlib.h>
 #include <string.h>
 #include <sys/time.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <initializer_list>
@@ -24,13 +27,69 @@ namespace
 
 constexpr hssize_t kReadAsEveryType = 3;
 
+// As small as the storage's: where a file leads a conversion astray, it leaves a small buffer and the default of 1 MiB
+// not.
+constexpr size_t kConversionBufferBytes = 4096;
+
+// Of processor time, for a process that may hang while a crash is looked for.
+constexpr unsigned kSecondsBeforeACrash = 1;
+
+enum class Until
+{
+  TheFirstFault,
+  Crash,
+  Hang
+};
+
 struct Manner
 {
   const hid_t* begin;
   const hid_t* end;  // of the types to read as
+  hid_t transfer;
   bool impatient;
-  bool only_open;
+  Until until;
 };
+
+void GiveTime(unsigned seconds)
+{
+  const itimerval work{{0, 0}, {static_cast<time_t>(seconds), 0}};
+  setitimer(ITIMER_PROF, &work, nullptr);
+}
+
+[[noreturn]] void EndLike(int status)
+{
+  if (WIFSIGNALED(status))
+  {
+    signal(WTERMSIG(status), SIG_DFL);
+    raise(WTERMSIG(status));
+  }
+  _exit(WEXITSTATUS(status));
+}
+
+// Calls a reader, in a process of its own where only one fault is to end this one.
+template <class Reader>
+void Apart(Manner manner, Reader reader)
+{
+  if (manner.until == Until::TheFirstFault)
+  {
+    reader();
+    return;
+  }
+  const pid_t child = fork();
+  if (child == 0)
+  {
+    GiveTime(manner.until == Until::Hang ? kHangSeconds : kSecondsBeforeACrash);
+    reader();
+    exit(0);
+  }
+  int status = 0;
+  waitpid(child, &status, 0);
+  const bool hung = WIFSIGNALED(status) && WTERMSIG(status) == SIGPROF;
+  if (status != 0 && hung == (manner.until == Until::Hang))
+  {
+    EndLike(status);
+  }
+}
 
 herr_t CountLink(hid_t, const char*, const H5L_info_t*, void* count)
 {
@@ -77,7 +136,7 @@ void FollowReference(hid_t dataset, const hobj_ref_t* reference)
   H5Oclose(target);
 }
 
-void ReadElement(hid_t dataset, hid_t type, hsize_t position)
+void ReadElement(hid_t dataset, hid_t type, hid_t transfer, hsize_t position)
 {
   const hid_t space = H5Dget_space(dataset);
   const hsize_t one = 1;
@@ -90,7 +149,7 @@ void ReadElement(hid_t dataset, hid_t type, hsize_t position)
     double number;
   } element;
   memset(&element, 0, sizeof element);
-  const bool good = H5Dread(dataset, type, memory, space, H5P_DEFAULT, &element) >= 0;
+  const bool good = H5Dread(dataset, type, memory, space, transfer, &element) >= 0;
   if (H5Tget_class(type) == H5T_VLEN)
   {
     free(element.sequence.p);
@@ -120,7 +179,7 @@ void ReadDataset(hid_t dataset, Manner manner, bool all)
     {
       if (!all || H5Tget_class(*one) == type_class)
       {
-        ReadElement(dataset, *one, static_cast<hsize_t>(i));
+        ReadElement(dataset, *one, manner.transfer, static_cast<hsize_t>(i));
       }
     }
   }
@@ -131,37 +190,38 @@ void ReadCommand(hid_t group, Manner manner, bool all)
   const hsize_t count = NumLinks(group);
   for (hsize_t i = 0; i < count; ++i)
   {
-    char* name = NameAt(group, i);
-    const hid_t dataset = name != nullptr ? H5Dopen2(group, name, H5P_DEFAULT) : -1;
-    if (dataset >= 0)
-    {
-      if (!manner.only_open)
+    Apart(manner, [&] {
+      char* name = NameAt(group, i);
+      const hid_t dataset = name != nullptr ? H5Dopen2(group, name, H5P_DEFAULT) : -1;
+      if (dataset >= 0)
       {
         ReadDataset(dataset, manner, all);
+        H5Dclose(dataset);
       }
-      H5Dclose(dataset);
-    }
-    free(name);
+      free(name);
+    });
   }
 }
 
 // Calls a reader for each member group.
 template <class Reader>
-void ForEachGroup(hid_t group, Reader reader)
+void ForEachGroup(hid_t group, Manner manner, Reader reader)
 {
   H5G_info_t info;
   H5Gget_info(group, &info);
   const hsize_t count = NumLinks(group);
   for (hsize_t i = 0; i < count; ++i)
   {
-    char* name = NameAt(group, i);
-    const hid_t member = name != nullptr ? H5Gopen2(group, name, H5P_DEFAULT) : -1;
-    if (member >= 0)
-    {
-      reader(member);
-      H5Gclose(member);
-    }
-    free(name);
+    Apart(manner, [&] {
+      char* name = NameAt(group, i);
+      const hid_t member = name != nullptr ? H5Gopen2(group, name, H5P_DEFAULT) : -1;
+      if (member >= 0)
+      {
+        reader(member);
+        H5Gclose(member);
+      }
+      free(name);
+    });
   }
 }
 
@@ -189,8 +249,9 @@ void ReadFile(Manner manner)
   {
     for (const bool all : {false, true})
     {
-      ForEachGroup(top,
-                   [&](hid_t kind) { ForEachGroup(kind, [&](hid_t command) { ReadCommand(command, manner, all); }); });
+      ForEachGroup(top, manner, [&](hid_t kind) {
+        ForEachGroup(kind, manner, [&](hid_t command) { ReadCommand(command, manner, all); });
+      });
     }
     H5Gclose(top);
   }
@@ -201,7 +262,8 @@ void ReadFile(Manner manner)
 
 int main(int argc, char** argv)
 {
-  Manner manner{nullptr, nullptr, false, false};
+  Manner manner{nullptr, nullptr, H5Pcreate(H5P_DATASET_XFER), false, Until::TheFirstFault};
+  H5Pset_buffer(manner.transfer, kConversionBufferBytes, nullptr, nullptr);
   int next = 1;
   for (; next < argc && strncmp(argv[next], "--", 2) == 0; ++next)
   {
@@ -210,7 +272,14 @@ int main(int argc, char** argv)
       FillFreshMemory();
     }
     manner.impatient = manner.impatient || strcmp(argv[next], "--impatient") == 0;
-    manner.only_open = manner.only_open || strcmp(argv[next], "--open") == 0;
+    if (strcmp(argv[next], "--until-crash") == 0)
+    {
+      manner.until = Until::Crash;
+    }
+    else if (strcmp(argv[next], "--until-hang") == 0)
+    {
+      manner.until = Until::Hang;
+    }
   }
   H5Eset_auto2(H5E_DEFAULT, nullptr, nullptr);
   const hid_t types[] = {H5T_NATIVE_INT,
@@ -226,8 +295,7 @@ int main(int argc, char** argv)
   {
     if (next != first)  // which has the time that this program was started with
     {
-      const itimerval work{{0, 0}, {kHangSeconds, 0}};
-      setitimer(ITIMER_PROF, &work, nullptr);
+      GiveTime(kHangSeconds);
     }
     if (chdir(argv[next]) == 0)
     {
