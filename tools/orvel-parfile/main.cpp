@@ -1,7 +1,7 @@
 #include "job/scratch_folder.h"
 #include "subcommands/subcommands.h"
 #include "support/exit_code.h"
-#include "support/printable.h"
+#include "support/plain_text.h"
 #include "support/raw_words.h"
 
 #include "OrvelCommands/foundation/KLV_Exception.h"
@@ -21,7 +21,7 @@ namespace
 
 int Report(const std::string& what, ExitCode code)
 {
-  std::cerr << Printable(what) << "\n";
+  std::cerr << PrintableLines(what) << "\n";
   return code;
 }
 

@@ -223,7 +223,7 @@ class FilesOfOtherPrograms(ExportTest):
              "/PARFILE/MODEL_/duct/GROUP is a soft link\n"
              "/PARFILE/MODEL_/duct/SUB is a group where a key stands\n"
              "/PARFILE/NOTE is a dataset where a group stands\n"
-             "the kind K\\u00ff has a name that is no UTF-8\n"
+             "the kind K\\xff has a name that is no UTF-8\n"
              "MODEL_ duct: PAIR is a compound of 12 bytes\n"
              "MODEL_ duct: RANK0 is a dataset of rank 0, where a key has rank 1\n"
              "MODEL_ duct: RANK2 is a dataset of rank 2, where a key has rank 1\n"

@@ -10,7 +10,7 @@
 #include "job/job_listing.h"
 #include "job/job_text.h"
 #include "support/exit_code.h"
-#include "support/printable.h"
+#include "support/plain_text.h"
 #include "support/style.h"
 
 #include <nlohmann/json.hpp>

@@ -380,9 +380,9 @@ class FilesThatDoNotLoad(ShowTest):
 
     def test_control_characters_do_not_reach_the_terminal(self):
         job = minimal_job()
-        job["MODEL_"]["duct"]["FILE_"] = texts("a\x1b[2Jb")
+        job["MODEL_"]["duct"]["FILE_"] = texts("a\x1b[2Jb\u009b2Jc\u202ed\u00e4")
         write_parameter_file(self.folder, job)
-        self.assertIn("m_FILE_: a\\u001b[2Jb\n", self.tool("show", "--log").out)
+        self.assertIn("m_FILE_: a\\u001b[2Jb\\u009b2Jc\\u202ed\u00e4\n", self.tool("show", "--log").out)
 
 
 if __name__ == "__main__":

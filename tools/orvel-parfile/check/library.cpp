@@ -3,7 +3,7 @@
 #include "job/job_kind.h"
 #include "job/new_parameter_file.h"
 #include "job/parameter_file.h"
-#include "support/printable.h"
+#include "support/plain_text.h"
 
 #include "OrvelCommands/foundation/KLV_Failure.h"
 #include "OrvelDbFactory/OrvelDbInstance.h"
@@ -34,7 +34,7 @@ private:
 void AddFailure(std::string text, std::vector<Finding>& findings)
 {
   text.erase(text.find_last_not_of(" \n") + 1);
-  findings.push_back({&rules::library, {}, {}, {}, {}, {}, Printable(text), {}});
+  findings.push_back({&rules::library, {}, {}, {}, {}, {}, PrintableLines(text), {}});
 }
 
 bool LeadsNowhere(const JobItem& item, const JobIndex& index)

@@ -1,7 +1,7 @@
 #include "report.h"
 
 #include "OrvelCommands/commands/command_schema.h"
-#include "support/printable.h"
+#include "support/plain_text.h"
 
 #include <nlohmann/json.hpp>
 
@@ -111,14 +111,14 @@ std::string Indented(const std::string& text)
 
 std::string Block(const Finding& finding, const Report& report)
 {
-  const std::string text = Printable(finding.text);
+  const std::string text = PrintableLines(finding.text);
   const std::size_t end = std::min(text.find('\n'), text.size());
   std::string block = AsText(PlaceOf(finding, report)) + ": " + std::string(SeverityName(finding.rule->severity)) +
                       ": " + text.substr(0, end) + " [" + std::string(finding.rule->name) + "]" +
                       Indented(text.substr(end)) + "\n";
   if (!finding.remedy.empty())
   {
-    block += kIndent + ("mend: " + Indented(Printable(finding.remedy))) + "\n";
+    block += kIndent + ("mend: " + Indented(PrintableLines(finding.remedy))) + "\n";
   }
   return block;
 }

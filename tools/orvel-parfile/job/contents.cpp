@@ -2,7 +2,7 @@
 
 #include "support/exit_code.h"
 #include "support/nearest_name.h"
-#include "support/printable.h"
+#include "support/plain_text.h"
 
 #include <algorithm>
 #include <set>
@@ -22,7 +22,7 @@ std::string NextPart(const std::string& path, const std::string& start)
 std::string OneLine(const std::string& text)
 {
   std::string line;
-  for (const char character : Printable(text))
+  for (const char character : PrintableLines(text))
   {
     line += character == '\n' ? std::string("\\n") : std::string(1, character);
   }

@@ -3,7 +3,7 @@
 #include "read_value.h"
 #include "support/exit_code.h"
 #include "support/nearest_name.h"
-#include "support/printable.h"
+#include "support/plain_text.h"
 #include "support/schema_names.h"
 #include "support/toml_input.h"
 
@@ -55,8 +55,8 @@ private:
   void Fault(const Rule& rule, const Subject& subject, const toml::node& node, const std::string& text,
              const std::string& remedy = {}, const std::string& value = {})
   {
-    m_description.faults.push_back({&rule, subject.kind, subject.id, subject.key, Printable(value), PlaceOf(node),
-                                    Printable(text), Printable(remedy)});
+    m_description.faults.push_back({&rule, subject.kind, subject.id, subject.key, PrintableLines(value), PlaceOf(node),
+                                    PrintableLines(text), PrintableLines(remedy)});
   }
 
   void ReadExtraKinds(const toml::node& node)

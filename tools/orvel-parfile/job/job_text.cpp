@@ -1,7 +1,7 @@
 #include "job_text.h"
 
 #include "job_description.h"
-#include "support/printable.h"
+#include "support/plain_text.h"
 
 #include <nlohmann/json.hpp>
 

@@ -2,7 +2,7 @@
 
 #include "support/exit_code.h"
 #include "support/nearest_name.h"
-#include "support/printable.h"
+#include "support/plain_text.h"
 #include "support/schema_names.h"
 #include "support/toml_input.h"
 
@@ -47,7 +47,7 @@ private:
 
   void Fault(const toml::node& node, const std::string& what)
   {
-    m_faults.push_back(PlaceOf(node) + ": " + Printable(what));
+    m_faults.push_back(PlaceOf(node) + ": " + PrintableLines(what));
   }
 
   void ReadList(const std::string& name, const toml::node& node)

@@ -3,7 +3,7 @@
 #include "read_value.h"
 #include "support/exit_code.h"
 #include "support/nearest_name.h"
-#include "support/printable.h"
+#include "support/plain_text.h"
 #include "support/schema_names.h"
 
 #include <toml++/toml.h>
@@ -91,7 +91,7 @@ std::vector<std::string> InLists(const std::vector<std::string>& words)
 
 std::string MustBe(const std::string& subject, const char* expected, const std::string& word)
 {
-  return subject + " must be " + expected + ", not " + Printable(word);
+  return subject + " must be " + expected + ", not " + PrintableLines(word);
 }
 
 }  // namespace
@@ -113,7 +113,7 @@ std::vector<JobItem> ReadWords(const std::vector<std::string>& words, const sche
     {
       throw UnusableInput(
         MustBe(subject, ExpectedValue(field.type), word) +
-        (field.enumerators.empty() ? "" : "; " + NearestName(Printable(word), EnumeratorNames(field))));
+        (field.enumerators.empty() ? "" : "; " + NearestName(PrintableLines(word), EnumeratorNames(field))));
     }
     items.push_back({std::move(*value), {}});
   }

@@ -9,7 +9,7 @@
 #include "subcommands.h"
 #include "support/exit_code.h"
 #include "support/file_argument.h"
-#include "support/printable.h"
+#include "support/plain_text.h"
 #include "support/style.h"
 
 #include "OrvelCommands/parfile/for_each_command.h"
@@ -51,7 +51,7 @@ FileArgument ArgumentOf(const Options& options)
 
 void PrintRecord(const KLV_LogRecord& record)
 {
-  std::cout << record.prefix << record.source << ":" << record.line << "\n" << Printable(record.text);
+  std::cout << record.prefix << record.source << ":" << record.line << "\n" << PrintableLines(record.text);
   if (record.text.empty() || record.text.back() != '\n')
   {
     std::cout << "\n";  // the text of a large command is cut

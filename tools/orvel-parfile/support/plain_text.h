@@ -10,5 +10,12 @@
 /// the empty text and one with a comma, a quotation mark or a blank at an end.
 std::string PlainText(const std::string& text);
 
+/// A text of one or more lines, in which the same characters are written with the same escapes, but for line feeds.
+/// Nothing is quoted, so that a text with a backslash of its own may look the same.
+std::string PrintableLines(const std::string& text);
+
+/// Whether all of a text is UTF-8.
+bool IsUtf8(const std::string& text);
+
 /// How many characters a UTF-8 text has.
 std::size_t CharacterCount(const std::string& text);
