@@ -45,12 +45,20 @@ class Workshop:
     def run(self, *command, **options):
         return subprocess.run(command, cwd=self.tree, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True, **options)
 
-    def prepare(self):
-        shutil.rmtree(self.tree, ignore_errors=True)
+    def copy_sources(self):
+        """Leaves alone what is the same, and gives what is not a new time: the build may stem from a change to it."""
         names = subprocess.run(["git", "ls-files", "-z"], cwd=ROOT, capture_output=True, text=True, check=True).stdout
-        for name in filter(None, names.split("\0")):
-            (self.tree / name).parent.mkdir(parents=True, exist_ok=True)
-            shutil.copy2(ROOT / name, self.tree / name)
+        wanted = {self.tree / name: ROOT / name for name in filter(None, names.split("\0"))}
+        for path in self.tree.rglob("*"):
+            if path.is_file() and path not in wanted:
+                path.unlink()
+        for path, source in wanted.items():
+            if not path.exists() or path.read_bytes() != source.read_bytes():
+                path.parent.mkdir(parents=True, exist_ok=True)
+                shutil.copy(source, path)
+
+    def prepare(self):
+        self.copy_sources()
         self.run("cmake", "-S", self.tree, "-B", self.build, "-G", "Ninja", "-DCMAKE_BUILD_TYPE=Debug",
                  "-DCMAKE_CXX_FLAGS_DEBUG=-O0", "-DCMAKE_LINK_DEPENDS_NO_SHARED=ON", "-DORVEL_BUILD_TOOLS=OFF",
                  "-DORVEL_BUILD_EXAMPLES=OFF", check=True)

@@ -1,8 +1,11 @@
 /// \file
-/// Tests that would leave traces in their process, such as a file that stays open. POSIX only.
+/// Tests that would leave traces in their process, such as a file that stays open. Linux only.
 #pragma once
 
 #include <gtest/gtest.h>
+#include <linux/capability.h>
+#include <sys/syscall.h>
+#include <unistd.h>
 
 #include <cstdio>
 #include <cstdlib>
@@ -51,4 +54,12 @@ template <class Action>
 void InAProcessOfItsOwn(Action action, const char* report = "")
 {
   EXPECT_EXIT(child_process::RunAndExit(action), testing::ExitedWithCode(EXIT_SUCCESS), report);
+}
+
+/// Takes from this process what lets the superuser write where its rights forbid it. Nothing changes for other users.
+inline void GiveUpPrivileges()
+{
+  __user_cap_header_struct header{_LINUX_CAPABILITY_VERSION_3, 0};
+  const __user_cap_data_struct none[_LINUX_CAPABILITY_U32S_3] = {};
+  ASSERT_EQ(syscall(SYS_capset, &header, none), 0);
 }

@@ -4,15 +4,16 @@
 
 #include <gmock/gmock.h>
 #include <sys/resource.h>
-#include <unistd.h>
 
 #include <csignal>
 #include <filesystem>
+#include <functional>
 
 namespace
 {
 
-// A disk that has no room left, as a limit on the size of files: writes beyond it fail.
+// A disk that has no room left, as a limit on the size of files: writes beyond it fail. And one that nothing may be
+// written to, which the superuser has to be kept from.
 class ParfileHdf5StorageDisk : public ParfileHdf5StorageTest
 {
 protected:
@@ -21,6 +22,17 @@ protected:
     std::signal(SIGXFSZ, SIG_IGN);
     const rlimit limit{size, RLIM_INFINITY};
     ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &limit), 0);
+  }
+
+  static void MakeReadOnly(const char* path)
+  {
+    std::filesystem::permissions(path, std::filesystem::perms::owner_write, std::filesystem::perm_options::remove);
+  }
+
+  void TearDown() override
+  {
+    std::filesystem::permissions(".", std::filesystem::perms::owner_all);
+    ParfileHdf5StorageTest::TearDown();
   }
 
   static void FillUp() { LimitFilesTo(std::filesystem::file_size(PARFILE_STORAGE_FILE)); }
@@ -37,32 +49,77 @@ ParfileHdf5Storage& StorageForGood()
   return *new ParfileHdf5Storage();
 }
 
+struct WriteOfAnElement
+{
+  const char* key;
+  std::function<void(const char* key)> add;
+  std::function<void(const char* key, int index)> set;
+};
+
+template <class Value>
+WriteOfAnElement WriteOf(const ParfileHdf5Storage& storage, const char* key, VtmType type, Value value)
+{
+  return {key, [&storage, type, value](const char* name) { storage.AddValue("DV_", "porosity", name, type, value); },
+          [&storage, type, value](const char* name, int index) {
+            storage.SetValue("DV_", "porosity", name, index, type, value);
+          }};
+}
+
+// One of each kind that the interface takes, with a key for it.
+std::vector<WriteOfAnElement> WritesOfAllTypes(const ParfileHdf5Storage& storage)
+{
+  return {WriteOf(storage, "WHOLE_", vtmInteger, 5),
+          WriteOf(storage, "CHOICE_", vtmEnum, 77),
+          WriteOf(storage, "NUMBER_", vtmDouble, 0.5),
+          WriteOf(storage, "TEXT_", vtmString, std::string("text")),
+          WriteOf(storage, "GROUP_", vtmModelId, std::string("name")),
+          WriteOf(storage, "LETTER_", vtmInteger, 'c'),
+          WriteOf(storage, "WHOLES_", vtmIntegerList, std::vector<int>{1, 2}),
+          WriteOf(storage, "NUMBERS_", vtmDoubleList, std::vector<double>{0.5, 1.5})};
+}
+
+void AddReferenceTo(const ParfileHdf5Storage& storage, const char* key)
+{
+  storage.AddReference("DV_", "porosity", key, "DV_", "porosity");
+}
+
+void AddOneOfEach(const ParfileHdf5Storage& storage)
+{
+  for (const WriteOfAnElement& write : WritesOfAllTypes(storage))
+  {
+    write.add(write.key);
+  }
+  AddReferenceTo(storage, "OTHER_");
+}
+
 }  // namespace
 
-TEST_F(ParfileHdf5StorageDisk, WithoutRoomFailsInAddingAValue)
+TEST_F(ParfileHdf5StorageDisk, WithoutRoomFailsInAddingAnElementOfAnyType)
 {
   InAProcessOfItsOwn([] {
     StorageWithCommand();
     const ParfileHdf5Storage& storage = StorageForGood();
     FillUp();
-    EXPECT_THAT(FailureOf([&] { storage.AddValue("DV_", "porosity", "A_", vtmInteger, 5); }), IsWriteFailure());
-    EXPECT_THAT(FailureOf([&] { storage.AddValue("DV_", "porosity", "B_", vtmDouble, 0.5); }), IsWriteFailure());
-    EXPECT_THAT(FailureOf([&] { storage.AddValue("DV_", "porosity", "C_", vtmString, std::string("text")); }),
-                IsWriteFailure());
-    EXPECT_THAT(FailureOf([&] { storage.AddValue("DV_", "porosity", "D_", vtmIntegerList, std::vector<int>{1}); }),
-                IsWriteFailure());
-    EXPECT_THAT(FailureOf([&] { storage.AddReference("DV_", "porosity", "E_", "DV_", "porosity"); }), IsWriteFailure());
+    for (const WriteOfAnElement& write : WritesOfAllTypes(storage))
+    {
+      EXPECT_THAT(FailureOf([&] { write.add(write.key); }), IsWriteFailure()) << write.key;
+    }
+    EXPECT_THAT(FailureOf([&] { AddReferenceTo(storage, "OTHER_"); }), IsWriteFailure());
   });
 }
 
-TEST_F(ParfileHdf5StorageDisk, WithoutRoomFailsInGrowingAKey)
+TEST_F(ParfileHdf5StorageDisk, WithoutRoomFailsInGrowingAKeyOfAnyType)
 {
   InAProcessOfItsOwn([] {
-    StorageWithCommand().AddValue("DV_", "porosity", "A_", vtmInteger, 5);
+    AddOneOfEach(StorageWithCommand());
     const ParfileHdf5Storage& storage = StorageForGood();
     FillUp();
-    EXPECT_THAT(FailureOf([&] { storage.SetValue("DV_", "porosity", "A_", 2, vtmInteger, 6); }), IsWriteFailure());
-    EXPECT_THAT(FailureOf([&] { storage.AddValue("DV_", "porosity", "A_", vtmInteger, 6); }), IsWriteFailure());
+    for (const WriteOfAnElement& write : WritesOfAllTypes(storage))
+    {
+      EXPECT_THAT(FailureOf([&] { write.add(write.key); }), IsWriteFailure()) << write.key;
+      EXPECT_THAT(FailureOf([&] { write.set(write.key, 3); }), IsWriteFailure()) << write.key;
+    }
+    EXPECT_THAT(FailureOf([&] { AddReferenceTo(storage, "OTHER_"); }), IsWriteFailure());
   });
 }
 
@@ -79,30 +136,50 @@ TEST_F(ParfileHdf5StorageDisk, WithoutRoomStillOverwritesWhatIsThere)
   });
 }
 
-// A right that the superuser does not lose.
-TEST_F(ParfileHdf5StorageDisk, WithoutTheRightToWriteFailsInOpeningForWritingAlone)
+// HDF5 keeps the tree in memory until the file is closed.
+TEST_F(ParfileHdf5StorageDisk, WithoutRoomTakesCommandsAndRemovalsThatItCanOnlyKeepInMemory)
 {
-  if (geteuid() == 0)
-  {
-    GTEST_SKIP() << "the superuser may write everywhere";
-  }
-  StorageWithCommand();
-  std::filesystem::permissions(PARFILE_STORAGE_FILE, std::filesystem::perms::owner_read);
-  std::filesystem::permissions(".", std::filesystem::perms::owner_read | std::filesystem::perms::owner_exec);
-  EXPECT_THAT(FailureOf([] { ParfileHdf5Storage(); }), IsFileFailure());
-  EXPECT_THAT(FailureOf([] { ParfileHdf5Storage(true); }), IsFileFailure());
-  EXPECT_TRUE(ReadOnlyStorage().HasCommand("DV_", "porosity"));
-  std::filesystem::permissions(".", std::filesystem::perms::owner_all);
+  InAProcessOfItsOwn([] {
+    AddOneOfEach(StorageWithCommand());
+    ParfileHdf5Storage& storage = StorageForGood();
+    FillUp();
+    storage.AddCommand("DV_", "other");
+    storage.AddCommand("STOP_", "first");
+    storage.DeleteValues("DV_", "porosity", "TEXT_");
+    EXPECT_TRUE(storage.HasCommand("STOP_", "first"));
+    EXPECT_FALSE(storage.HasElement("DV_", "porosity", "TEXT_"));
+  });
 }
 
-TEST_F(ParfileHdf5StorageDisk, WithAReadOnlyFolderIsWrittenAllTheSame)
+TEST_F(ParfileHdf5StorageDisk, WithoutTheRightToWriteFailsInOpeningForWritingAlone)
 {
-  StorageWithCommand();
-  std::filesystem::permissions(".", std::filesystem::perms::owner_read | std::filesystem::perms::owner_exec);
-  {
-    const ParfileHdf5Storage storage;
-    storage.AddValue("DV_", "porosity", "A_", vtmInteger, 5);
-  }
-  EXPECT_EQ(IntegerOf(ReadOnlyStorage(), "A_", 1), 5);
-  std::filesystem::permissions(".", std::filesystem::perms::owner_all);
+  InAProcessOfItsOwn([] {
+    StorageWithCommand();
+    MakeReadOnly(PARFILE_STORAGE_FILE);
+    MakeReadOnly(".");
+    GiveUpPrivileges();
+    EXPECT_THAT(FailureOf([] { ParfileHdf5Storage(); }), IsFileFailure());
+    EXPECT_THAT(FailureOf([] { ParfileHdf5Storage(true); }), IsFileFailure());
+    EXPECT_TRUE(ReadOnlyStorage().HasCommand("DV_", "porosity"));
+  });
+}
+
+TEST_F(ParfileHdf5StorageDisk, InAReadOnlyFolderIsWrittenAllTheSame)
+{
+  InAProcessOfItsOwn([] {
+    StorageWithCommand();
+    MakeReadOnly(".");
+    GiveUpPrivileges();
+    {
+      ParfileHdf5Storage storage;
+      AddOneOfEach(storage);
+      storage.SetValue("DV_", "porosity", "WHOLE_", 1, vtmInteger, 6);
+      storage.AddCommand("STOP_", "first");
+      storage.DeleteValues("DV_", "porosity", "TEXT_");
+    }
+    EXPECT_EQ(IntegerOf(ReadOnlyStorage(), "WHOLE_", 1), 6);
+    EXPECT_EQ(ReferenceOf(ReadOnlyStorage(), "OTHER_", 1), "porosity");
+    EXPECT_TRUE(ReadOnlyStorage().HasCommand("STOP_", "first"));
+    EXPECT_EQ(CountOf(ReadOnlyStorage(), "TEXT_"), 0U);
+  });
 }

@@ -1,4 +1,6 @@
-"""Files that others hold, things that are no files, and full disks: a clear text at once, and nothing is lost."""
+"""Files that others hold, things that are no files, read-only places and full disks: a clear text at once, and nothing
+is lost.
+"""
 
 import fcntl
 import os
@@ -11,7 +13,8 @@ import unittest
 
 import h5py
 
-from support import EXAMPLES, FILE_NAME, GOOD, UNUSABLE, ToolTest, minimal_job, names_in, write_parameter_file
+from support import (EXAMPLES, FILE_NAME, GOOD, UNUSABLE, ToolTest, give_up_privileges, minimal_job, names_in,
+                     write_parameter_file)
 from tree import tree_of
 
 SET = ("set", "DV_", "porosity", "INITIAL_", "0.7")
@@ -131,6 +134,40 @@ class NoFiles(LockTest):
         self.assert_refused(SET, f"{self.file}: this link leads to no file\n")
         self.assert_refused(IMPORT, f"{self.file}: this link leads to no file\n")
         self.assertTrue(self.file.is_symlink())
+
+
+class ReadOnlyPlaces(LockTest):
+    def protect(self, path, rights):
+        path.chmod(rights)
+        self.addCleanup(lambda: path.exists() and path.chmod(0o755))
+
+    def test_that_are_folders_are_refused_by_every_change(self):
+        self.protect(self.folder, 0o555)
+        for arguments in CHANGE:
+            with self.subTest(arguments):
+                self.assert_refused(arguments, f"nothing can be written in {self.folder}: Permission denied\n",
+                                    preexec_fn=give_up_privileges)
+
+    def test_that_are_files_are_refused_by_every_change(self):
+        self.protect(self.file, 0o444)
+        for arguments in CHANGE:
+            with self.subTest(arguments):
+                self.assert_refused(arguments, f"{self.file}: the file is write-protected\n",
+                                    preexec_fn=give_up_privileges)
+
+    def test_can_be_read(self):
+        self.protect(self.file, 0o444)
+        self.protect(self.folder, 0o555)
+        for arguments in READ:
+            with self.subTest(arguments):
+                self.assertEqual(GOOD, self.tool(*arguments, preexec_fn=give_up_privileges).code)
+
+    def test_that_nobody_may_read_are_refused(self):
+        self.protect(self.file, 0o000)
+        for arguments in READ:
+            with self.subTest(arguments):
+                self.assertEqual((UNUSABLE, "", f"{self.file}: the file cannot be read: Permission denied\n"),
+                                 self.tool(*arguments, preexec_fn=give_up_privileges))
 
 
 class FullDisks(LockTest):

@@ -306,21 +306,6 @@ class TheFile(SetTest):
         self.assertEqual((65534, 65534, 0o640),
                          (self.file.stat().st_uid, self.file.stat().st_gid, self.file.stat().st_mode & 0o7777))
 
-    def test_is_left_alone_when_it_is_write_protected(self):
-        self.folder.parent.chmod(0o755)
-        self.folder.chmod(0o777)
-        self.file.chmod(0o444)
-        options = {"user": 65534, "group": 65534, "extra_groups": []} if os.geteuid() == 0 else {}
-        before = self.file.read_bytes()
-        try:
-            result = self.tool("set", "DV_", "porosity", "INITIAL_", "0.1", **options)
-        except PermissionError:
-            self.skipTest("the tool cannot be run as another user than root")
-        if "write-protected" not in result.err and result.code not in (GOOD, UNUSABLE):
-            self.skipTest("the tool cannot be run as another user than root")
-        self.assertEqual((UNUSABLE, "", f"{self.file}: the file is write-protected\n"), result)
-        self.assertEqual(before, self.file.read_bytes())
-
     def test_behind_a_link_is_replaced_and_the_link_stays(self):
         place = self.folder / "store"
         place.mkdir()

@@ -6,8 +6,6 @@
 #include "support/hdf5_handle.h"
 #include "write_job.h"
 
-#include <unistd.h>
-
 namespace fs = std::filesystem;
 
 namespace
@@ -15,14 +13,10 @@ namespace
 
 constexpr const char* kRoot = "/PARFILE/";
 
-// The file as it may be changed: one that its owner has protected is not replaced behind his back.
-const fs::path& Changeable(const fs::path& path)
+Job ReadToChange(const fs::path& path)
 {
-  if (fs::exists(path) && access(path.c_str(), W_OK) != 0)
-  {
-    throw UnusableInput(path.string() + ": the file is write-protected");
-  }
-  return path;
+  RequireUnprotected(path);
+  return ReadParameterFile(path);
 }
 
 bool HasLink(hid_t file, const std::string& path)
@@ -53,7 +47,7 @@ void Change(const fs::path& path, Action action)
 }  // namespace
 
 ChangedParameterFile::ChangedParameterFile(const fs::path& path)
-  : m_lock(path), m_before(ReadParameterFile(path)), m_file(Changeable(path))
+  : m_lock(path), m_before(ReadToChange(path)), m_file(path)
 {
   m_file.CopyFromPlace();
 }

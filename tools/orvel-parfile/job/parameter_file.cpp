@@ -5,6 +5,10 @@
 
 #include "OrvelCommands/foundation/KLV_Failure.h"
 
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstring>
 #include <system_error>
 
 namespace fs = std::filesystem;
@@ -69,13 +73,26 @@ fs::path NewParameterFilePath(const fs::path& argument, bool force)
       throw UnusableInput(path.string() + " exists already; --force replaces it");
     }
     RequireFile(path);
+    RequireUnprotected(path);
   }
   return path;
+}
+
+void RequireUnprotected(const fs::path& path)
+{
+  if (fs::exists(path) && access(path.c_str(), W_OK) != 0)
+  {
+    throw UnusableInput(path.string() + ": the file is write-protected");
+  }
 }
 
 std::unique_ptr<ParfileHdf5Storage> OpenParameterFile(const fs::path& path)
 {
   RequireFile(path);
+  if (access(path.c_str(), R_OK) != 0)
+  {
+    throw UnusableInput(path.string() + ": the file cannot be read: " + std::strerror(errno));
+  }
   FileLock::AgainstWriters(path);
   const WorkingDirectory folder(path.parent_path());
   try
