@@ -390,6 +390,13 @@ void MakeSoftLink(const std::string& path, const std::string& target)
   Checked(H5Lcreate_soft(target.c_str(), file, path.c_str(), H5P_DEFAULT, H5P_DEFAULT), "make the link " + path);
 }
 
+void MakeExternalLink(const std::string& path, const std::string& file_name, const std::string& target)
+{
+  const Id file = OpenFile(H5F_ACC_RDWR);
+  Checked(H5Lcreate_external(file_name.c_str(), target.c_str(), file, path.c_str(), H5P_DEFAULT, H5P_DEFAULT),
+          "make the link " + path);
+}
+
 void MakeReferences(const std::string& path, const std::vector<std::string>& targets)
 {
   std::vector<hobj_ref_t> references(targets.size(), 0);
@@ -416,6 +423,12 @@ void MakeRegionReference(const std::string& path, const std::string& target)
     Checked(H5Rcreate(&reference, file, target.c_str(), H5R_DATASET_REGION, space), "refer to " + target);
   }
   MakeKey(path, H5T_STD_REF_DSETREG, 1, &reference);
+}
+
+void Move(const std::string& from, const std::string& to)
+{
+  const Id file = OpenFile(H5F_ACC_RDWR);
+  Checked(H5Lmove(file, from.c_str(), file, to.c_str(), H5P_DEFAULT, H5P_DEFAULT), "move " + from);
 }
 
 void Remove(const std::string& path)

@@ -151,12 +151,16 @@ void MakeContiguous(const std::string& path, hid_t type, const std::vector<hsize
 void MakeScalar(const std::string& path, hid_t type, const void* data);
 void MakeNull(const std::string& path, hid_t type);
 void MakeSoftLink(const std::string& path, const std::string& target);
+void MakeExternalLink(const std::string& path, const std::string& file_name, const std::string& target);
 
 /// A key of object references, one for each target. An empty target gives the reference that is all zero.
 void MakeReferences(const std::string& path, const std::vector<std::string>& targets);
 
 /// A key of one region reference, which points into a dataset.
 void MakeRegionReference(const std::string& path, const std::string& target);
+
+/// Gives an object another path.
+void Move(const std::string& from, const std::string& to);
 
 /// Takes a link out of the file; references to what it named then lead nowhere.
 void Remove(const std::string& path);

@@ -5,6 +5,7 @@
 #include <array>
 #include <cstdlib>
 #include <cstring>
+#include <optional>
 #include <type_traits>
 
 using namespace orvel::detail;
@@ -172,6 +173,42 @@ void CloseWritten(H5::DataSet& dataset)
   Guarded<H5::DataSetIException>(hdf5_failures::kWriteElement, [&] { dataset.close(); });
 }
 
+// Not so where an external link has led to the dataset.
+bool LieInOneFile(const H5::DataSet& dataset, const H5::Group& group)
+{
+  const hid_t one = H5Iget_file_id(dataset.getId());
+  const hid_t other = H5Iget_file_id(group.getId());
+  H5Idec_ref(one);
+  H5Idec_ref(other);
+  return one == other;
+}
+
+// How a group leads to a member, if it has one: one pass over the links in name order, ending at the match. It raises
+// nothing for an absent name and compares names as they stand, where HDF5's own test would resolve "/" and ".".
+std::optional<H5L_type_t> FindLink(const H5::Group& group, const std::string& name)
+{
+  struct Search
+  {
+    const std::string& name;
+    std::optional<H5L_type_t> type;
+  } search{name, std::nullopt};
+  const auto is_name = [](hid_t, const char* member, const H5L_info_t* link, void* data) -> herr_t {
+    auto& wanted = *static_cast<Search*>(data);
+    if (wanted.name != member)
+    {
+      return 0;
+    }
+    wanted.type = link->type;
+    return 1;
+  };
+  hsize_t start = 0;
+  if (H5Literate(group.getId(), H5_INDEX_NAME, H5_ITER_INC, &start, is_name, &search) < 0)
+  {
+    throw H5::GroupIException("ParfileHdf5Storage::HasGroupOrSet", hdf5_failures::kNoWalk);
+  }
+  return search.type;
+}
+
 // The name of the link in a kind's group that leads to the object, if there is one: one pass that opens no member.
 bool FindLinkTo(const H5::Group& parfile, const std::string& kind, hobj_ref_t object, std::string& name)
 {
@@ -251,21 +288,9 @@ ParfileHdf5Storage::~ParfileHdf5Storage()
   delete m_file;
 }
 
-// One pass over the links in name order, ending at the match. It raises nothing for an absent name and compares names
-// as they stand, where HDF5's own test would resolve "/" and ".".
 bool ParfileHdf5Storage::HasGroupOrSet(const H5::Group& group, const std::string& name) const
 {
-  const auto is_name = [](hid_t, const char* member, const H5L_info_t*, void* wanted) -> herr_t {
-    return *static_cast<const std::string*>(wanted) == member ? 1 : 0;
-  };
-  hsize_t start = 0;
-  const herr_t result =
-    H5Literate(group.getId(), H5_INDEX_NAME, H5_ITER_INC, &start, is_name, const_cast<std::string*>(&name));
-  if (result < 0)
-  {
-    throw H5::GroupIException("ParfileHdf5Storage::HasGroupOrSet", hdf5_failures::kNoWalk);
-  }
-  return result > 0;
+  return FindLink(group, name).has_value();
 }
 
 std::unique_ptr<H5::DataType> ParfileHdf5Storage::MakeDataType(VtmType type) const
@@ -333,8 +358,11 @@ void ParfileHdf5Storage::GetReference(const std::string& command, const std::str
       throw H5::ReferenceException("ParfileHdf5Storage::GetReference", hdf5_failures::kNoGroup);
     }
     // Asked for the path of a dereferenced group, HDF5 searches the whole file. A key bears the name of the kind that
-    // it refers to, so a look at that kind's links finds nearly every name first.
-    if (!HasGroupOrSet(m_parfile_group, key) || !FindLinkTo(m_parfile_group, key, reference, target_id_name))
+    // it refers to, so a look at that kind's links finds nearly every name first. A reference is an address, which
+    // means something in its own file alone.
+    const bool is_found = LieInOneFile(dataset, m_parfile_group) && FindLink(m_parfile_group, key) == H5L_TYPE_HARD &&
+                          FindLinkTo(m_parfile_group, key, reference, target_id_name);
+    if (!is_found)
     {
       H5::Group target;
       target.dereference(dataset, &reference, H5R_OBJECT);

@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 
 #include <cstdint>
+#include <filesystem>
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -280,6 +281,31 @@ TEST_F(ParfileHdf5StorageForeignData, GivesTheNameOfATargetAndNotOfALinkToIt)
   plain_hdf5::MakeSoftLink("/PARFILE/FILTER_/alias", "/PARFILE/CS_/axis");
   plain_hdf5::MakeReferences("/PARFILE/DV_/porosity/FILTER_", {"/PARFILE/FILTER_/alias"});
   EXPECT_EQ(ReferenceOf(ReadOnlyStorage(), "FILTER_", 1), "axis");
+}
+
+// In a copy of a file the same addresses belong to groups that the copied references were made for.
+TEST_F(ParfileHdf5StorageForeignData, NamesTheTargetInTheFileThatAKeyOfAnotherFileRefersInto)
+{
+  plain_hdf5::MakeGroup("/PARFILE/FILTER_");
+  plain_hdf5::MakeGroup("/PARFILE/FILTER_/theirs");
+  plain_hdf5::MakeReferences("/PARFILE/DV_/porosity/FILTER_", {"/PARFILE/FILTER_/theirs"});
+  std::filesystem::copy_file(PARFILE_STORAGE_FILE, "other.hdf5");
+  plain_hdf5::Move("/PARFILE/FILTER_/theirs", "/PARFILE/FILTER_/ours");
+  plain_hdf5::Remove("/PARFILE/DV_/porosity/FILTER_");
+  plain_hdf5::MakeExternalLink("/PARFILE/DV_/porosity/FILTER_", "other.hdf5", "/PARFILE/DV_/porosity/FILTER_");
+  EXPECT_EQ(ReferenceOf(ReadOnlyStorage(), "FILTER_", 1), "theirs");
+}
+
+TEST_F(ParfileHdf5StorageForeignData, NamesTheTargetInItsFileWhereItsKindLiesInAnother)
+{
+  plain_hdf5::MakeGroup("/PARFILE/FILTER_");
+  plain_hdf5::MakeGroup("/PARFILE/FILTER_/theirs");
+  plain_hdf5::MakeReferences("/PARFILE/DV_/porosity/FILTER_", {"/PARFILE/FILTER_/theirs"});
+  std::filesystem::copy_file(PARFILE_STORAGE_FILE, "other.hdf5");
+  plain_hdf5::Move("/PARFILE/FILTER_/theirs", "/PARFILE/FILTER_/ours");
+  plain_hdf5::Move("/PARFILE/FILTER_", "/PARFILE/KEPT_");
+  plain_hdf5::MakeExternalLink("/PARFILE/FILTER_", "other.hdf5", "/PARFILE/FILTER_");
+  EXPECT_EQ(ReferenceOf(ReadOnlyStorage(), "FILTER_", 1), "ours");
 }
 
 TEST_F(ParfileHdf5StorageForeignData, RefusesAReferenceThatIsNotSet)
