@@ -1,5 +1,8 @@
 #include "hostile/FileWriter.h"
 
+#include "hostile/case_file.h"
+#include "hostile/random_elements.h"
+
 #include <array>
 #include <cstdlib>
 #include <stdexcept>
@@ -49,6 +52,14 @@ Id AccessList(bool newest_format)
   return list;
 }
 
+// With its default buffer HDF5 zeroes a megabyte for each element.
+Id TransferList()
+{
+  Id list{H5Pcreate(H5P_DATASET_XFER), H5Pclose, "make a transfer list"};
+  H5Pset_buffer(list, 4096, nullptr, nullptr);
+  return list;
+}
+
 hid_t CreateFile(const std::string& path, hid_t access, hsize_t user_block)
 {
   const Id list = ListWithoutTimes(H5P_FILE_CREATE);
@@ -70,18 +81,39 @@ Id ItemType(VtmType type)
   }
 }
 
-Id Compound()
+Id Compound(hid_t second)
 {
-  Id type{H5Tcreate(H5T_COMPOUND, 16), H5Tclose, "make a compound"};
+  Id type{H5Tcreate(H5T_COMPOUND, 8 + H5Tget_size(second)), H5Tclose, "make a compound"};
   H5Tinsert(type, "first", 0, H5T_NATIVE_INT);
-  H5Tinsert(type, "second", 8, H5T_NATIVE_DOUBLE);
+  H5Tinsert(type, "second", 8, second);
   return type;
 }
 
-Id Array()
+Id Array(hid_t item)
 {
   const hsize_t extent[] = {2, 3};
-  return {H5Tarray_create2(H5T_NATIVE_INT, 2, extent), H5Tclose, "make an array"};
+  return {H5Tarray_create2(item, 2, extent), H5Tclose, "make an array"};
+}
+
+// Of a compound or an array: numbers, and what leads to other places of the file.
+Id ItemOfAnyClass(Numbers& numbers)
+{
+  switch (numbers.Below(5))
+  {
+    case 0: return plain_hdf5::StringOf(H5T_VARIABLE);
+    case 1: return plain_hdf5::SequenceOf(H5T_NATIVE_INT);
+    case 2: return plain_hdf5::Copy(H5T_STD_REF_OBJ);
+    case 3: return plain_hdf5::Copy(H5T_NATIVE_INT);
+    default: return plain_hdf5::Copy(H5T_NATIVE_DOUBLE);
+  }
+}
+
+Id FixedString(Numbers& numbers)
+{
+  const H5T_str_t paddings[] = {H5T_STR_NULLTERM, H5T_STR_NULLPAD, H5T_STR_SPACEPAD};
+  Id type = plain_hdf5::StringOf(1 + numbers.Below(300));
+  H5Tset_strpad(type, numbers.Choose(paddings));
+  return type;
 }
 
 Id Enumeration()
@@ -117,29 +149,22 @@ Id TypeOfAnyClass(Numbers& numbers)
   switch (numbers.Below(16))
   {
     case 0: return FloatOfAnySize(numbers);
-    case 1: return Compound();
-    case 2: return plain_hdf5::StringOf(1 + numbers.Below(300));
+    case 1: return Compound(ItemOfAnyClass(numbers));
+    case 2: return FixedString(numbers);
     case 3: return plain_hdf5::StringOf(H5T_VARIABLE);
     case 4: return Opaque();
-    case 5: return Array();
+    case 5: return Array(ItemOfAnyClass(numbers));
     case 6: return Enumeration();
     case 7: return plain_hdf5::Copy(H5T_STD_REF_OBJ);
     case 8: return plain_hdf5::Copy(H5T_STD_REF_DSETREG);
     case 9: return plain_hdf5::SequenceOf(H5T_NATIVE_UCHAR);
     case 10: return plain_hdf5::SequenceOf(plain_hdf5::SequenceOf(H5T_C_S1));
-    case 11: return plain_hdf5::SequenceOf(Compound());
+    case 11: return plain_hdf5::SequenceOf(Compound(ItemOfAnyClass(numbers)));
     case 12: return plain_hdf5::SequenceOf(plain_hdf5::StringOf(H5T_VARIABLE));
     case 13: return plain_hdf5::SequenceOf(H5T_NATIVE_FLOAT);
     case 14: return plain_hdf5::Copy(H5T_UNIX_D32LE);
     default: return IntegerOfAnySize(numbers);
   }
-}
-
-// Whether the elements may be any bytes. HDF5 follows the pointers of the others when it writes them.
-bool IsPlain(hid_t type)
-{
-  return H5Tdetect_class(type, H5T_VLEN) == 0 && H5Tdetect_class(type, H5T_STRING) == 0 &&
-         H5Tdetect_class(type, H5T_REFERENCE) == 0;
 }
 
 }  // namespace
@@ -148,6 +173,7 @@ FileWriter::FileWriter(const std::string& path, bool newest_format, hsize_t user
   : m_numbers(numbers),
     m_path(path),
     m_access(AccessList(newest_format)),
+    m_transfer(TransferList()),
     m_file(CreateFile(path, m_access, user_block), H5Fclose, "make the file")
 {
 }
@@ -197,7 +223,7 @@ void FileWriter::WriteCommand(const std::string& kind_path, const PlannedCommand
   }
   else if (m_numbers.OneIn(3))
   {
-    MakeGroup(kind_path + "/" + WrongName());
+    MakeGroup(kind_path + "/" + WrongName(m_numbers));
   }
   else
   {
@@ -257,7 +283,7 @@ void FileWriter::WriteSoundKey(const std::string& path, const PlannedKey& key)
       break;
     default: break;
   }
-  Check(H5Dwrite(dataset, type, H5S_ALL, H5S_ALL, H5P_DEFAULT, data), "write " + path);
+  Check(H5Dwrite(dataset, type, H5S_ALL, H5S_ALL, m_transfer, data), "write " + path);
 }
 
 void FileWriter::MakeGroup(const std::string& path)
@@ -276,7 +302,7 @@ void FileWriter::MakeWrongLink(const std::string& path)
 {
   const char* name = path.c_str();
   const std::string other = path + "_again";
-  switch (m_numbers.Below(13))
+  switch (m_numbers.Below(16))
   {
     case 0: H5Lcreate_soft("/PARFILE/nowhere", m_file, name, H5P_DEFAULT, H5P_DEFAULT); break;
     case 1: H5Lcreate_soft(name, m_file, name, H5P_DEFAULT, H5P_DEFAULT); break;
@@ -291,35 +317,18 @@ void FileWriter::MakeWrongLink(const std::string& path)
       H5Lcreate_soft(other.c_str(), m_file, name, H5P_DEFAULT, H5P_DEFAULT);
       H5Lcreate_soft(name, m_file, other.c_str(), H5P_DEFAULT, H5P_DEFAULT);
       break;
-    case 10: H5Tcommit2(m_file, name, Compound(), H5P_DEFAULT, H5P_DEFAULT, H5P_DEFAULT); break;
+    case 10: H5Tcommit2(m_file, name, Compound(H5T_NATIVE_DOUBLE), H5P_DEFAULT, H5P_DEFAULT, H5P_DEFAULT); break;
     case 11: MakeDataset(path, H5T_NATIVE_INT, Space({1}, true), ChunkedList({1})); break;
+    case 12: H5Lcreate_external(kForeignFile, name, m_file, name, H5P_DEFAULT, H5P_DEFAULT); break;
+    case 13: H5Lcreate_external(kForeignFile, AnyPath().c_str(), m_file, name, H5P_DEFAULT, H5P_DEFAULT); break;
+    case 14: H5Lcreate_external(kForeignFile, kWayBack, m_file, name, H5P_DEFAULT, H5P_DEFAULT); break;
     default: break;  // absent
   }
 }
 
-std::string FileWriter::WrongName()
+void FileWriter::WriteWayBack(const std::string& file)
 {
-  const std::size_t sizes[] = {1, 2, 63, 255, 256, 1023, 1024, 4096, 16000, 65535};
-  std::string name(m_numbers.Choose(sizes), 'x');
-  switch (m_numbers.Below(4))
-  {
-    case 0:
-      for (char& one : name)
-      {
-        one = static_cast<char>(1 + m_numbers.Below(255));
-        one = one == '/' ? '_' : one;
-      }
-      break;
-    case 1:
-      for (std::size_t i = 0; i + 1 < name.size(); i += 2)
-      {
-        name.replace(i, 2, "\xc3\xbc");
-      }
-      break;
-    case 2: name.replace(0, 1, "%s%n%5000d%.9999f%c"); break;
-    default: name.front() = static_cast<char>(1 + m_numbers.Below(31)); break;
-  }
-  return name;
+  H5Lcreate_external(file.c_str(), "/PARFILE", m_file, kWayBack, H5P_DEFAULT, H5P_DEFAULT);
 }
 
 void FileWriter::MakeWrongKey(const std::string& path, const PlannedKey& key)
@@ -338,7 +347,7 @@ void FileWriter::MakeWrongKey(const std::string& path, const PlannedKey& key)
     case 9: MakeGroup(path); break;
     case 10:
       WriteSoundKey(path, key);
-      MakeGroup(path.substr(0, path.rfind('/') + 1) + WrongName());
+      MakeGroup(path.substr(0, path.rfind('/') + 1) + WrongName(m_numbers));
       break;
     default: MakeWrongLink(path); break;
   }
@@ -349,31 +358,34 @@ void FileWriter::MakeWithWrongSpace(const std::string& path, const PlannedKey& k
   const Id type = ItemType(key.type);
   const Id list = ListWithoutTimes(H5P_DATASET_CREATE);
   const auto of_class = [](H5S_class_t space_class) { return Id{H5Screate(space_class), H5Sclose, "make a space"}; };
+  const auto make = [&](const Id& space, const Id& creation, std::size_t count) {
+    const Id dataset = MakeDataset(path, type, space, creation);
+    if (count > 0 && m_numbers.OneIn(2))
+    {
+      WriteSomething(dataset, type, count);
+    }
+  };
   switch (m_numbers.Below(8))
   {
-    case 0: MakeDataset(path, type, of_class(H5S_SCALAR), list); break;
-    case 1: MakeDataset(path, type, of_class(H5S_NULL), list); break;
-    case 2: MakeDataset(path, type, Space({2, 2}, true), ChunkedList({1, 1})); break;
-    case 3: MakeDataset(path, type, Space({1, 2, 3}, true), ChunkedList({1, 1, 2})); break;
-    case 4: MakeDataset(path, type, Space(std::vector<hsize_t>(H5S_MAX_RANK, 1), false), list); break;
-    case 5: MakeDataset(path, type, Space({0}, true), ChunkedList({1})); break;
-    case 6: MakeDataset(path, type, Space({1 + m_numbers.Below(5)}, true), ChunkedList({1})); break;  // unwritten
+    case 0: make(of_class(H5S_SCALAR), list, 1); break;
+    case 1: make(of_class(H5S_NULL), list, 0); break;
+    case 2: make(Space({2, 2}, true), ChunkedList({1, 1}), 4); break;
+    case 3: make(Space({1, 2, 3}, true), ChunkedList({1, 1, 2}), 6); break;
+    case 4: make(Space(std::vector<hsize_t>(H5S_MAX_RANK, 1), false), list, 1); break;
+    case 5: make(Space({0}, true), ChunkedList({1}), 0); break;
+    case 6: make(Space({1 + m_numbers.Below(5)}, true), ChunkedList({1}), 0); break;
     default:
       // Few of these: each holds up whoever reads all that it declares.
-      MakeDataset(path, type, Space({m_numbers.OneIn(50) ? hsize_t{1} << m_numbers.Below(62) : 1000}, true),
-                  ChunkedList({1}));
+      make(Space({m_numbers.OneIn(50) ? hsize_t{1} << m_numbers.Below(62) : 1000}, true), ChunkedList({1}), 0);
       break;
   }
 }
 
-void FileWriter::WriteRandomBytes(hid_t dataset, hid_t type, std::size_t count)
+void FileWriter::WriteSomething(hid_t dataset, hid_t type, std::size_t count)
 {
-  std::vector<unsigned char> bytes(count * H5Tget_size(type));
-  for (unsigned char& one : bytes)
-  {
-    one = static_cast<unsigned char>(m_numbers.Next());
-  }
-  H5Dwrite(dataset, type, H5S_ALL, H5S_ALL, H5P_DEFAULT, bytes.data());
+  const std::vector<std::string> paths = m_groups.empty() ? std::vector<std::string>{"/"} : m_groups;
+  const RandomElements elements(m_file, paths, type, count, m_numbers);
+  H5Dwrite(dataset, type, H5S_ALL, H5S_ALL, m_transfer, elements.Data());
 }
 
 void FileWriter::MakeWithWrongType(const std::string& path)
@@ -381,18 +393,9 @@ void FileWriter::MakeWithWrongType(const std::string& path)
   const Id type = TypeOfAnyClass(m_numbers);
   const std::size_t count = 1 + m_numbers.Below(3);
   const Id dataset = MakeDataset(path, type, Space({count}, true), ChunkedList({1 + m_numbers.Below(4)}));
-  if (IsPlain(type))
+  if (!m_numbers.OneIn(4))
   {
-    WriteRandomBytes(dataset, type, count);
-  }
-  else if (H5Tget_class(type) == H5T_STRING && H5Tis_variable_str(type) > 0)
-  {
-    const std::vector<const char*> texts(count, "porosity");
-    H5Dwrite(dataset, type, H5S_ALL, H5S_ALL, H5P_DEFAULT, texts.data());
-  }
-  else if (H5Tget_class(type) == H5T_STRING)
-  {
-    WriteRandomBytes(dataset, type, count);
+    WriteSomething(dataset, type, count);
   }
 }
 
@@ -422,9 +425,9 @@ void FileWriter::MakeWithWrongLayout(const std::string& path, const PlannedKey& 
     default: break;
   }
   const Id dataset = MakeDataset(path, type, Space({1}, chunked), list);
-  if (IsPlain(type) && kind < 5)
+  if (kind < 5 && !m_numbers.OneIn(4))
   {
-    WriteRandomBytes(dataset, type, 1);
+    WriteSomething(dataset, type, 1);
   }
 }
 
@@ -439,7 +442,7 @@ void FileWriter::MakeWrongText(const std::string& path)
   const Id type = plain_hdf5::SequenceOf(H5T_C_S1);
   const Id dataset = MakeDataset(path, type, Space({1}, true), ChunkedList({1}));
   const hvl_t element{text.size(), text.data()};
-  Check(H5Dwrite(dataset, type, H5S_ALL, H5S_ALL, H5P_DEFAULT, &element), "write " + path);
+  Check(H5Dwrite(dataset, type, H5S_ALL, H5S_ALL, m_transfer, &element), "write " + path);
 }
 
 void FileWriter::MakeWrongReferences(const std::string& path)
@@ -466,13 +469,13 @@ void FileWriter::MakeWrongReferences(const std::string& path)
     }
   }
   const Id dataset = MakeDataset(path, H5T_STD_REF_OBJ, Space({references.size()}, true), ChunkedList({1}));
-  H5Dwrite(dataset, H5T_STD_REF_OBJ, H5S_ALL, H5S_ALL, H5P_DEFAULT, references.data());
+  H5Dwrite(dataset, H5T_STD_REF_OBJ, H5S_ALL, H5S_ALL, m_transfer, references.data());
   if (m_numbers.OneIn(3))
   {
     hobj_ref_t itself = 0;
     H5Rcreate(&itself, m_file, path.c_str(), H5R_OBJECT, -1);
     references.fill(itself);
-    H5Dwrite(dataset, H5T_STD_REF_OBJ, H5S_ALL, H5S_ALL, H5P_DEFAULT, references.data());
+    H5Dwrite(dataset, H5T_STD_REF_OBJ, H5S_ALL, H5S_ALL, m_transfer, references.data());
   }
 }
 
@@ -486,7 +489,7 @@ void FileWriter::MakeWrongLength(const std::string& path, const PlannedKey& key)
                                  ListWithoutTimes(H5P_DATASET_CREATE));  // contiguous, so it has an address
   std::array<double, 8> items{};
   const hvl_t element{8, items.data()};
-  Check(H5Dwrite(dataset, type, H5S_ALL, H5S_ALL, H5P_DEFAULT, &element), "write " + path);
+  Check(H5Dwrite(dataset, type, H5S_ALL, H5S_ALL, m_transfer, &element), "write " + path);
   const haddr_t address = H5Dget_offset(dataset);
   if (address == HADDR_UNDEF)
   {

@@ -20,6 +20,9 @@ public:
   /// Throws: std::runtime_error when a sound place cannot be made.
   void Write(const JobPlan& plan);
 
+  /// Makes an external link that leads from this file to the "/PARFILE" of another.
+  void WriteWayBack(const std::string& file);
+
   /// Bytes to put at places of the closed file: what HDF5 itself would not write.
   const std::vector<std::pair<haddr_t, std::string>>& Patches() const { return m_patches; }
 
@@ -37,13 +40,13 @@ private:
   void MakeWrongReferences(const std::string& path);
   void MakeWrongLength(const std::string& path, const PlannedKey& key);
   plain_hdf5::Id MakeDataset(const std::string& path, hid_t type, hid_t space, hid_t list);
-  void WriteRandomBytes(hid_t dataset, hid_t type, std::size_t count);
-  std::string WrongName();
+  void WriteSomething(hid_t dataset, hid_t type, std::size_t count);
   std::string AnyPath();
 
   Numbers& m_numbers;
   std::string m_path;
   plain_hdf5::Id m_access;
+  plain_hdf5::Id m_transfer;
   plain_hdf5::Id m_file;
   std::vector<std::string> m_groups;  // made so far
   std::vector<std::pair<haddr_t, std::string>> m_patches;

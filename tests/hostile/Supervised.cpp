@@ -12,6 +12,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <exception>
 #include <new>
 #include <stdexcept>
 
@@ -80,6 +81,13 @@ pid_t Fork()
   return child;
 }
 
+Outcome EndBySignal(int number)
+{
+  const bool is_out_of_time = number == SIGALRM || number == SIGPROF;
+  const bool is_from_outside = number == SIGTERM || number == SIGINT || number == SIGHUP || number == SIGKILL;
+  return {is_out_of_time ? End::Hang : is_from_outside ? End::Stopped : End::Crash, "signal " + std::to_string(number)};
+}
+
 Outcome WaitFor(pid_t child, int highest_good)
 {
   int status = 0;
@@ -88,8 +96,7 @@ Outcome WaitFor(pid_t child, int highest_good)
   }
   if (WIFSIGNALED(status))
   {
-    const int number = WTERMSIG(status);
-    return {number == SIGALRM || number == SIGPROF ? End::Hang : End::Crash, "signal " + std::to_string(number)};
+    return EndBySignal(WTERMSIG(status));
   }
   const int code = WEXITSTATUS(status);
   if (code <= highest_good)
@@ -101,7 +108,7 @@ Outcome WaitFor(pid_t child, int highest_good)
   {
     case kMemoryExit: return {End::Memory, note};
     case kRefusedExit: return {End::Refused, note};
-    default: return {End::Crash, "exit code " + std::to_string(code)};
+    default: return {code == kCrashExit ? End::Crash : End::Refused, "exit code " + std::to_string(code)};
   }
 }
 
@@ -116,6 +123,7 @@ const char* NameOf(End end)
     case End::Hang: return "hangs";
     case End::Memory: return "wants too much memory";
     case End::Refused: return "ends as it must not";
+    case End::Stopped: return "is stopped from outside";
   }
   return "";
 }
@@ -137,6 +145,7 @@ Outcome RunSupervised(const std::function<void()>& action, Limit limit)
   {
     DropOutput();
     SetLimits(limit);
+    std::set_terminate([] { EndWith(kRefusedExit, "std::terminate"); });  // no crash, which HDF5 might share
     try
     {
       action();

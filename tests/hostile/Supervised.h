@@ -12,10 +12,11 @@
 enum class End
 {
   Well,
-  Crash,   ///< By a signal, or by a sanitizer.
-  Hang,    ///< Longer than its limit without a sign of life.
-  Memory,  ///< It wanted more than kMemoryLimit.
-  Refused  ///< By an exception or a state that is not allowed.
+  Crash,    ///< By a signal, or by the exit code of a sanitizer or of valgrind, kCrashExit.
+  Hang,     ///< Longer than its limit without a sign of life.
+  Memory,   ///< It wanted more than kMemoryLimit.
+  Refused,  ///< By an exception, a state or an exit code that is not allowed.
+  Stopped   ///< From outside, which says nothing.
 };
 
 /// How long a process may work without a sign of life.

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <csignal>
+#include <exception>
 #include <new>
 #include <stdexcept>
 
@@ -19,7 +20,9 @@ End EndOf(const std::function<void()>& action, Limit limit = Limit::Full)
 TEST(Supervised, TellsHowAnActionEnds)
 {
   EXPECT_EQ(EndOf([] {}), End::Well);
-  EXPECT_EQ(EndOf([] { std::raise(SIGKILL); }), End::Crash);
+  EXPECT_EQ(EndOf([] { std::raise(SIGBUS); }), End::Crash);
+  EXPECT_EQ(EndOf([] { std::raise(SIGKILL); }), End::Stopped);
+  EXPECT_EQ(EndOf([] { std::terminate(); }), End::Refused);
   EXPECT_EQ(EndOf([] { std::raise(SIGALRM); }), End::Hang);
   EXPECT_EQ(EndOf([] { throw std::bad_alloc(); }), End::Memory);
   EXPECT_EQ(EndOf([] { throw std::runtime_error("no"); }), End::Refused);
@@ -47,6 +50,8 @@ TEST(Supervised, TellsHowAProgramEnds)
 {
   EXPECT_EQ(RunProgram("/bin/true", {}, 0, Limit::Full).end, End::Well);
   EXPECT_EQ(RunProgram("/bin/false", {}, 1, Limit::Full).end, End::Well);
-  EXPECT_EQ(RunProgram("/bin/false", {}, 0, Limit::Full).end, End::Crash);
+  EXPECT_EQ(RunProgram("/bin/false", {}, 0, Limit::Full).end, End::Refused);
+  EXPECT_EQ(RunProgram("/bin/sh", {"-c", "exit 99"}, 2, Limit::Full).end, End::Crash);
   EXPECT_EQ(RunProgram("/bin/sh", {"-c", "kill -SEGV $$"}, 0, Limit::Full).end, End::Crash);
+  EXPECT_EQ(RunProgram("/bin/sh", {"-c", "kill -TERM $$"}, 0, Limit::Full).end, End::Stopped);
 }

@@ -8,9 +8,18 @@
 #include <string>
 #include <vector>
 
-/// A tree of the right shape with wrong leaves, links and names in a few places.
+/// A tree of the right shape with wrong leaves, links and names in a few places. Some links need the foreign file.
 /// Throws: std::runtime_error when HDF5 cannot make the file.
 void WriteStructuredCase(const std::string& path, std::uint64_t number);
+
+/// The file of another program in the same folder, which external links of structured cases lead into.
+constexpr const char* kForeignFile = "foreign.hdf5";
+
+/// The link in it that leads back.
+constexpr const char* kWayBack = "/BACK";
+
+/// Makes the foreign file: a sound job with all keys, and kWayBack to the "/PARFILE" of the file \p back_to.
+void WriteForeignFile(const std::string& back_to);
 
 /// So many of the sound files are whole jobs.
 constexpr std::size_t kWholeJobs = 3;

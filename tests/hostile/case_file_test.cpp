@@ -1,5 +1,6 @@
 #include "hostile/case_file.h"
 #include "hostile/exercise.h"
+#include "hostile/exercise_tool.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
@@ -77,8 +78,36 @@ TEST_F(HostileFiles, AreLoadedCheckedAndShownWhereTheyAreSound)
     std::ofstream(kFile, std::ios::binary) << sound[i];
     std::vector<std::string> steps;
     ExerciseFile(0, true, [&](const std::string& step) { steps.push_back(step); });
-    EXPECT_EQ(steps, (std::vector<std::string>{"opened", "Gyre_Parfile loaded", "Gyre_Parfile shown",
-                                               "Smooth_Parfile loaded", "Smooth_Parfile shown"}))
+    EXPECT_EQ(steps,
+              (std::vector<std::string>{"opened", "Gyre_Parfile loaded", "Gyre_Parfile validated", "Gyre_Parfile shown",
+                                        "Smooth_Parfile loaded", "Smooth_Parfile validated", "Smooth_Parfile shown"}))
       << i;
   }
+}
+
+TEST_F(HostileFiles, AreShownByTheToolInEachFormWhereTheyAreSound)
+{
+  H5::Exception::dontPrint();
+  const std::vector<std::string> sound = SoundFiles(kFile);
+  std::ofstream(kFile, std::ios::binary) << sound.back();
+  std::set<std::string> lines;
+  for (const std::uint64_t number : {0, 1, 2, 3, 4})
+  {
+    ExerciseTool(number, [&](const std::string& line, bool is_good) {
+      lines.insert(line);
+      EXPECT_TRUE(is_good || line.rfind("check", 0) == 0) << line;  // its values are no ones that a user would choose
+    });
+  }
+  EXPECT_EQ(lines, (std::set<std::string>{"check .", "check . --job smooth", "check . --json", "show .",
+                                          "show . --json", "show . --log", "show . --log --job smooth"}));
+}
+
+TEST_F(HostileFiles, CanLeadIntoAForeignFile)
+{
+  H5::Exception::dontPrint();
+  WriteForeignFile(kFile);
+  std::filesystem::copy_file(kForeignFile, kFile);
+  std::vector<std::string> steps;
+  ExerciseFile(0, true, [&](const std::string& step) { steps.push_back(step); });
+  EXPECT_EQ(steps.size(), 7U);
 }

@@ -8,6 +8,8 @@
 #include "support/OpenDatabase.h"
 #include "support/plain_hdf5.h"
 
+#include "OrvelUtilities/KLV_LogMacros.h"
+
 #include <algorithm>
 #include <memory>
 
@@ -69,7 +71,10 @@ void UseAs(const std::string& name, ParfileHdf5Storage& storage, Ends& ends, con
     return;
   }
   tell(name + " loaded");
-  Note(ends, [&] { parfile.ValidateModelIds(); });
+  if (Note(ends, [&] { parfile.ValidateModelIds(); }))
+  {
+    tell(name + " validated");
+  }
   if (Note(ends, [&] { orvel::ForEachCommand(parfile, [](const auto& command) { command.ToString(); }); }))
   {
     tell(name + " shown");
@@ -161,10 +166,14 @@ private:
 
 Ends ExerciseFile(std::uint64_t number, bool patient, const Tell& tell)
 {
+  KLV_LogMacros::SetSink([](const KLV_LogRecord&) {});
   Ends ends;
   OpenDatabase database;
-  database.Add(KLV_IdType::element_group, {"porosity"});
-  database.Add(KLV_IdType::node_group, {"porosity"});
+  for (const KLV_IdType type :
+       {KLV_IdType::element_group, KLV_IdType::node_group, KLV_IdType::face_group, KLV_IdType::coordinate_system})
+  {
+    database.Add(type, {"porosity"});
+  }
   {
     std::unique_ptr<ImpatientStorage> storage;
     if (!Note(ends, [&] { storage = std::make_unique<ImpatientStorage>(patient); }))

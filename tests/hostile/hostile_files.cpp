@@ -7,10 +7,9 @@
 // Only where it ends in the same way is the case HDF5's. Ends with 0 when there is no other case.
 #include "hostile/case_file.h"
 #include "hostile/exercise.h"
+#include "hostile/exercise_tool.h"
 #include "hostile/Supervised.h"
 #include "support/TemporaryFolder.h"
-
-#include "OrvelUtilities/KLV_LogMacros.h"
 
 #include <CLI/CLI.hpp>
 #include <H5Cpp.h>
@@ -78,6 +77,17 @@ void FillFreshMemory()
   H5set_free_list_limits(0, 0, 0, 0, 0, 0);
 }
 
+Ends ExerciseCase(std::uint64_t number, bool patient, Limit limit)
+{
+  Ends ends = ExerciseFile(number, patient);
+  SignOfLife(limit);
+  const Ends of_tool = ExerciseTool(number);
+  ends.good += of_tool.good;
+  ends.failures += of_tool.failures;
+  ends.binding_failures += of_tool.binding_failures;
+  return ends;
+}
+
 class Campaign
 {
 public:
@@ -86,6 +96,10 @@ public:
     if (options.mutated)
     {
       m_sound_files = SoundFiles(kFile);
+    }
+    else
+    {
+      WriteForeignFile(kFile);
     }
   }
 
@@ -161,7 +175,7 @@ private:
   {
     try
     {
-      const Ends ends = ExerciseFile(number, false);
+      const Ends ends = ExerciseCase(number, false, Limit::Quick);
       Shared().ends.good += ends.good;
       Shared().ends.failures += ends.failures;
       Shared().ends.binding_failures += ends.binding_failures;
@@ -211,9 +225,10 @@ private:
         RunReference(End::Hang, {m_folder}, Limit::Quick).end == End::Hang)
     {
       ++m_quick_hangs;
+      Keep(number, "stopped, as HDF5 alone, after the quick limit");
       return;
     }
-    const Outcome alone = RunSupervised([&] { ExerciseFile(number, true); }, Limit::Full);
+    const Outcome alone = RunSupervised([&] { ExerciseCase(number, true, Limit::Full); }, Limit::Full);
     if (alone.end == End::Well)
     {
       ++m_slow;  // beyond the quick limit and within the full one
@@ -226,12 +241,12 @@ private:
   // With fresh memory filled, when the first attempt ends well.
   static Outcome RunAlone(std::uint64_t number)
   {
-    const Outcome outcome = RunSupervised([&] { ExerciseFile(number, true); }, Limit::Full);
+    const Outcome outcome = RunSupervised([&] { ExerciseCase(number, true, Limit::Full); }, Limit::Full);
     return outcome.end != End::Well ? outcome
                                     : RunSupervised(
                                         [&] {
                                           FillFreshMemory();
-                                          ExerciseFile(number, true);
+                                          ExerciseCase(number, true, Limit::Full);
                                         },
                                         Limit::Full);
   }
@@ -240,21 +255,32 @@ private:
   // meet later; and, for a crash, watched, as it is chance whether a read beside its memory kills a program.
   Outcome RunReference(End expected, const std::vector<std::string>& arguments, Limit limit) const
   {
-    Outcome outcome = RunProgram(m_options.reference, arguments, 0, limit);
-    const auto retry = [&](const std::string& program, std::vector<std::string> first) {
+    Outcome outcome;
+    const auto attempt = [&](const std::string& program, std::vector<std::string> first) {
       if (outcome.end != expected)
       {
+        const std::string manner = first.empty() ? "" : ", " + first.front();
         first.insert(first.end(), arguments.begin(), arguments.end());
         outcome = RunProgram(program, first, 0, limit);
+        outcome.detail += manner;
       }
     };
-    retry(m_options.reference, {"--fill"});
-    const std::string past_others = expected == End::Hang ? "--until-hang" : "--until-crash";
-    retry(m_options.reference, {past_others});
+    attempt(m_options.reference, {});
+    attempt(m_options.reference, {"--fill"});
+    if (expected == End::Hang)
+    {
+      attempt(m_options.reference, {"--until-hang"});
+    }
+    if (expected == End::Crash)
+    {
+      attempt(m_options.reference, {"--open"});
+      attempt(m_options.reference, {"--until-crash"});
+    }
     if (expected == End::Crash && !m_options.valgrind.empty())
     {
-      retry(m_options.valgrind, {"--quiet", "--error-exitcode=99", m_options.reference});
-      retry(m_options.valgrind, {"--quiet", "--error-exitcode=99", m_options.reference, past_others});
+      const std::string exit_code = "--error-exitcode=" + std::to_string(kCrashExit);
+      attempt(m_options.valgrind, {"--quiet", exit_code, m_options.reference});
+      attempt(m_options.valgrind, {"--quiet", exit_code, m_options.reference, "--until-crash"});
     }
     return outcome;
   }
@@ -283,11 +309,9 @@ private:
       arguments.push_back(folders.back().string());
       if (MakeAlone(one))
       {
-        std::filesystem::create_directory(folders.back());
-        std::filesystem::rename(kFile, folders.back() / kFile);
+        CopyCaseTo(folders.back());
       }
     }
-    std::filesystem::copy_file(folders.back() / kFile, kFile);
     Compare(number, " after the cases from " + std::to_string(first_of_batch), {end, ""},
             RunReference(end, arguments, Limit::Full));
     for (const std::filesystem::path& folder : folders)
@@ -304,6 +328,18 @@ private:
                    reference.detail + ")" + (same ? "" : ": FAULT"));
   }
 
+  static void CopyCaseTo(const std::filesystem::path& folder)
+  {
+    std::filesystem::create_directories(folder);
+    for (const char* file : {kFile, kForeignFile})
+    {
+      if (std::filesystem::exists(file))
+      {
+        std::filesystem::copy_file(file, folder / file, std::filesystem::copy_options::overwrite_existing);
+      }
+    }
+  }
+
   // Tells how the programs ended, and lays it beside the file.
   void Keep(std::uint64_t number, const std::string& ends) const
   {
@@ -312,13 +348,12 @@ private:
     {
       const std::filesystem::path folder = std::filesystem::path(m_options.keep) /
                                            ((m_options.mutated ? "mutated_" : "structured_") + std::to_string(number));
-      std::filesystem::create_directories(folder);
-      std::filesystem::copy_file(kFile, folder / kFile, std::filesystem::copy_options::overwrite_existing);
+      CopyCaseTo(folder);
       std::ofstream(folder / "ends.txt") << ends << "\n";
     }
   }
 
-  // The tool as a process, on one case now and then.
+  // The tool as a process of its own, on one case now and then.
   void RunTool(std::uint64_t number)
   {
     if (m_options.tool_every == 0 || number % m_options.tool_every >= kBatch)
@@ -329,18 +364,13 @@ private:
     {
       return;
     }
-    for (const char* subcommand : {"check", "show"})
+    for (const std::vector<std::string>& line : ReadingCommandLines())
     {
-      for (const char* job : {"gyre", "smooth"})
+      ++m_tool_runs;
+      const Outcome tool = RunProgram(m_options.tool, line, 2, Limit::Full);
+      if (tool.end != End::Well)
       {
-        ++m_tool_runs;
-        const Outcome tool = RunProgram(m_options.tool, {subcommand, ".", "--job", job}, 2, Limit::Full);
-        if (tool.end != End::Well && RunReference(tool.end, {m_folder}, Limit::Full).end != tool.end)
-        {
-          ++m_faults;
-          Keep(number,
-               std::string("the tool's ") + subcommand + " " + NameOf(tool.end) + " (" + tool.detail + "): FAULT");
-        }
+        Compare(number, " in the tool's " + line.front(), tool, RunReference(tool.end, {m_folder}, Limit::Full));
       }
     }
   }
@@ -410,7 +440,6 @@ int main(int argc, char** argv)
   mallopt(M_TRIM_THRESHOLD, 1 << 28);
   mallopt(M_MMAP_THRESHOLD, 1 << 26);
   H5::Exception::dontPrint();
-  KLV_LogMacros::SetSink([](const KLV_LogRecord&) {});
   const TemporaryFolder folder;
   return Campaign(options).Run();
 }

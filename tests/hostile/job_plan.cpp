@@ -1,6 +1,7 @@
 #include "hostile/job_plan.h"
 
 #include <algorithm>
+#include <utility>
 
 using orvel::schema::Count;
 using orvel::schema::Field;
@@ -83,6 +84,25 @@ void DropKindsWithoutTargets(JobPlan& plan)
   plan.kinds.erase(dropped, plan.kinds.end());
 }
 
+// The references to a command follow it.
+void GiveWrongName(JobPlan& plan, const std::string& kind, PlannedCommand& command, Numbers& numbers)
+{
+  const std::string former = std::exchange(command.id, WrongName(numbers));
+  for (PlannedKind& other : plan.kinds)
+  {
+    for (PlannedCommand& referrer : other.commands)
+    {
+      for (PlannedKey& key : referrer.keys)
+      {
+        if (key.name == kind && key.target == former)
+        {
+          key.target = command.id;
+        }
+      }
+    }
+  }
+}
+
 }  // namespace
 
 JobPlan PlanSmallJob(Numbers& numbers, const std::vector<std::string>& names)
@@ -119,6 +139,31 @@ JobPlan PlanSoundJob(Numbers& numbers, std::uint64_t sparseness)
   return plan;
 }
 
+std::string WrongName(Numbers& numbers)
+{
+  const std::size_t sizes[] = {1, 2, 63, 255, 256, 1023, 1024, 4096, 16000, 65535};
+  std::string name(numbers.Choose(sizes), 'x');
+  switch (numbers.Below(4))
+  {
+    case 0:
+      for (char& one : name)
+      {
+        one = static_cast<char>(1 + numbers.Below(255));
+        one = one == '/' ? '_' : one;
+      }
+      break;
+    case 1:
+      for (std::size_t i = 0; i + 1 < name.size(); i += 2)
+      {
+        name.replace(i, 2, "\xc3\xbc");
+      }
+      break;
+    case 2: name.replace(0, 1, "%s%n%5000d%.9999f%c"); break;
+    default: name.front() = static_cast<char>(1 + numbers.Below(31)); break;
+  }
+  return name == "." ? "_" : name;  // which is no link of its own
+}
+
 void SpoilPlan(JobPlan& plan, Numbers& numbers, std::uint64_t count)
 {
   for (std::uint64_t i = 0; i < count; ++i)
@@ -134,7 +179,11 @@ void SpoilPlan(JobPlan& plan, Numbers& numbers, std::uint64_t count)
     {
       kind.wrong = true;
     }
-    else if (place < 20 || command.keys.empty())
+    else if (place < 16)
+    {
+      GiveWrongName(plan, kind.name, command, numbers);
+    }
+    else if (place < 28 || command.keys.empty())
     {
       command.wrong = true;
     }

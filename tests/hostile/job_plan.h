@@ -45,5 +45,9 @@ JobPlan PlanSoundJob(Numbers& numbers, std::uint64_t sparseness);
 /// A job of the kinds \p names alone, with all their keys. A fluid job does not load with it.
 JobPlan PlanSmallJob(Numbers& numbers, const std::vector<std::string>& names);
 
-/// Marks \p count places of the plan as wrong, most of them keys.
+/// A name of 1 to 65,535 bytes without "/": any bytes, UTF-8, conversions of printf or a control character.
+std::string WrongName(Numbers& numbers);
+
+/// Marks \p count places of the plan as wrong, most of them keys, or gives a command a wrong name, which the references
+/// to it follow.
 void SpoilPlan(JobPlan& plan, Numbers& numbers, std::uint64_t count);

@@ -17,3 +17,6 @@ constexpr unsigned long long kStackLimit = 256ULL << 10U;
 
 /// A key that declares more values than these is not read to the end, except in the first such cases of a run.
 constexpr long kPatience = 100000;
+
+/// With which sanitizers and valgrind have to be told to end a program; no program of ours uses it.
+constexpr int kCrashExit = 99;

@@ -2,12 +2,12 @@
 // does: element by element, each of the first as every type. None of our code is in it. It decides whether a file on
 // which the library dies, hangs or runs out of memory is one on which HDF5 itself does.
 //
-//   reference_reader [--fill] [--impatient] [--until-crash | --until-hang] <folder>...
+//   reference_reader [--fill] [--impatient] [--open | --until-crash | --until-hang] <folder>...
 //
 // --fill fills fresh memory, so that a use of it does not go by unseen; --impatient leaves out keys of too many values,
-// as a run over many files does. --until-crash and --until-hang are for a file that has both faults, of which a program
-// meets the one that its order brings first: each group and key has a process of its own, and only the fault that is
-// asked for ends the whole.
+// as a run over many files does. The others are for a file that has both faults, of which a program meets the one that
+// its order brings first. --open opens keys without reading them. With --until-crash and --until-hang each group and
+// key has a process of its own, and only the fault that is asked for ends the whole.
 #include "hostile/limits.h"
 
 #include <hdf5.h>
@@ -21,11 +21,14 @@
 #include <unistd.h>
 
 #include <initializer_list>
+#include <string>
+#include <vector>
 
 namespace
 {
 
 constexpr hssize_t kReadAsEveryType = 3;
+constexpr int kAttempts = 3;
 
 // As small as the storage's: where a file leads a conversion astray, it leaves a small buffer and the default of 1 MiB
 // not.
@@ -47,6 +50,7 @@ struct Manner
   const hid_t* end;  // of the types to read as
   hid_t transfer;
   bool impatient;
+  bool only_open;
   Until until;
 };
 
@@ -91,35 +95,35 @@ void Apart(Manner manner, Reader reader)
   }
 }
 
-herr_t CountLink(hid_t, const char*, const H5L_info_t*, void* count)
+herr_t NoteName(hid_t, const char* name, const H5L_info_t*, void* names)
 {
-  ++*static_cast<hsize_t*>(count);
+  static_cast<std::vector<std::string>*>(names)->emplace_back(name);
   return 0;
 }
 
-hsize_t NumLinks(hid_t group)
+// Those that come before a broken link, too: a storage that looks for one of them ends its walk there. A storage asks
+// again for the next key, and HDF5 may answer where it failed at first.
+std::vector<std::string> NamesOf(hid_t group)
 {
-  hsize_t count = 0;
-  hsize_t start = 0;
-  H5Literate(group, H5_INDEX_NAME, H5_ITER_INC, &start, CountLink, &count);
-  return count;
+  std::vector<std::string> names;
+  herr_t result = -1;
+  for (int attempt = 0; attempt < kAttempts && result < 0; ++attempt)
+  {
+    hsize_t start = 0;
+    result = H5Literate(group, H5_INDEX_NAME, H5_ITER_INC, &start, NoteName, &names);
+  }
+  return names;
 }
 
-// The name of a member, to be freed by the caller; null when there is none.
-char* NameAt(hid_t group, hsize_t position)
+// Ids are asked for by their positions, which is another way through HDF5.
+void AskForName(hid_t group, hsize_t position)
 {
   const ssize_t length = H5Lget_name_by_idx(group, ".", H5_INDEX_NAME, H5_ITER_INC, position, nullptr, 0, H5P_DEFAULT);
-  if (length < 0)
+  if (length >= 0)
   {
-    return nullptr;
+    std::vector<char> name(static_cast<size_t>(length) + 1);
+    H5Lget_name_by_idx(group, ".", H5_INDEX_NAME, H5_ITER_INC, position, name.data(), name.size(), H5P_DEFAULT);
   }
-  auto* name = static_cast<char*>(malloc(static_cast<size_t>(length) + 1));
-  if (name != nullptr)
-  {
-    H5Lget_name_by_idx(group, ".", H5_INDEX_NAME, H5_ITER_INC, position, name, static_cast<size_t>(length) + 1,
-                       H5P_DEFAULT);
-  }
-  return name;
 }
 
 void FollowReference(hid_t dataset, const hobj_ref_t* reference)
@@ -136,9 +140,8 @@ void FollowReference(hid_t dataset, const hobj_ref_t* reference)
   H5Oclose(target);
 }
 
-void ReadElement(hid_t dataset, hid_t type, hid_t transfer, hsize_t position)
+void ReadFrom(hid_t dataset, hid_t space, hid_t type, hid_t transfer, hsize_t position)
 {
-  const hid_t space = H5Dget_space(dataset);
   const hsize_t one = 1;
   const hid_t memory = H5Screate_simple(1, &one, nullptr);
   H5Sselect_hyperslab(space, H5S_SELECT_SET, &position, nullptr, &one, nullptr);
@@ -159,48 +162,92 @@ void ReadElement(hid_t dataset, hid_t type, hid_t transfer, hsize_t position)
     FollowReference(dataset, &element.reference);
   }
   H5Sclose(memory);
-  H5Sclose(space);
 }
 
-// The first elements as every type, or, in the second pass, all elements as the types of the dataset's class.
-void ReadDataset(hid_t dataset, Manner manner, bool all)
+bool HasElement(hid_t space, hsize_t position)
 {
+  return H5Sget_simple_extent_ndims(space) == 1 && position < static_cast<hsize_t>(H5Sget_select_npoints(space));
+}
+
+// Opens the dataset for this read alone, as a storage does: what one read leaves behind can hide a fault of the next.
+void ReadElement(hid_t group, const char* name, hid_t type, hid_t transfer, hsize_t position)
+{
+  const hid_t dataset = H5Dopen2(group, name, H5P_DEFAULT);
   const hid_t space = H5Dget_space(dataset);
-  const hssize_t count = H5Sget_select_npoints(space);
-  const bool rank_one = H5Sget_simple_extent_ndims(space) == 1;
+  if (HasElement(space, position))
+  {
+    ReadFrom(dataset, space, type, transfer, position);
+  }
+  H5Sclose(space);
+  H5Dclose(dataset);
+}
+
+struct Contents
+{
+  hssize_t count;  // 0 where no storage reads elements
+  H5T_class_t type_class;
+};
+
+Contents ContentsOf(hid_t group, const char* name)
+{
+  const hid_t dataset = H5Dopen2(group, name, H5P_DEFAULT);
+  if (dataset < 0)
+  {
+    return {kReadAsEveryType, H5T_NO_CLASS};  // to be tried again, which HDF5 answers otherwise at times
+  }
+  const hid_t space = H5Dget_space(dataset);
+  const hssize_t count = H5Sget_simple_extent_ndims(space) == 1 ? H5Sget_select_npoints(space) : 0;
   H5Sclose(space);
   const hid_t type = H5Dget_type(dataset);
   const H5T_class_t type_class = H5Tget_class(type);
   H5Tclose(type);
-  const hssize_t wanted = all ? (manner.impatient && count > kPatience ? 0 : count) : kReadAsEveryType;
-  for (hssize_t i = 0; rank_one && i < count && i < wanted; ++i)
+  H5Dclose(dataset);
+  return {count, type_class};
+}
+
+// The first elements as every type, or, in the second pass, all elements as the types of the dataset's class.
+void ReadDataset(hid_t group, const char* name, Manner manner, bool all)
+{
+  const Contents contents = ContentsOf(group, name);
+  const bool is_patient = !manner.impatient || contents.count <= kPatience;
+  const hssize_t wanted = manner.only_open ? 0 : !all ? kReadAsEveryType : is_patient ? contents.count : 0;
+  for (hssize_t i = 0; i < contents.count && i < wanted; ++i)
   {
-    for (const hid_t* one = manner.begin; one != manner.end; ++one)
+    for (const hid_t* type = manner.begin; type != manner.end; ++type)
     {
-      if (!all || H5Tget_class(*one) == type_class)
+      if (!all || H5Tget_class(*type) == contents.type_class)
       {
-        ReadElement(dataset, *one, manner.transfer, static_cast<hsize_t>(i));
+        const auto read = [&] { ReadElement(group, name, *type, manner.transfer, static_cast<hsize_t>(i)); };
+        if (all)
+        {
+          read();
+        }
+        else
+        {
+          Apart(manner, read);
+        }
       }
     }
   }
 }
 
-void ReadCommand(hid_t group, Manner manner, bool all)
+// Calls a reader for each name in a group.
+template <class Reader>
+void ForEachName(hid_t group, Manner manner, Reader reader)
 {
-  const hsize_t count = NumLinks(group);
-  for (hsize_t i = 0; i < count; ++i)
+  const std::vector<std::string> names = NamesOf(group);
+  for (size_t i = 0; i < names.size(); ++i)
   {
     Apart(manner, [&] {
-      char* name = NameAt(group, i);
-      const hid_t dataset = name != nullptr ? H5Dopen2(group, name, H5P_DEFAULT) : -1;
-      if (dataset >= 0)
-      {
-        ReadDataset(dataset, manner, all);
-        H5Dclose(dataset);
-      }
-      free(name);
+      AskForName(group, i);
+      reader(names[i].c_str());
     });
   }
+}
+
+void ReadCommand(hid_t group, Manner manner, bool all)
+{
+  ForEachName(group, manner, [&](const char* name) { ReadDataset(group, name, manner, all); });
 }
 
 // Calls a reader for each member group.
@@ -209,20 +256,14 @@ void ForEachGroup(hid_t group, Manner manner, Reader reader)
 {
   H5G_info_t info;
   H5Gget_info(group, &info);
-  const hsize_t count = NumLinks(group);
-  for (hsize_t i = 0; i < count; ++i)
-  {
-    Apart(manner, [&] {
-      char* name = NameAt(group, i);
-      const hid_t member = name != nullptr ? H5Gopen2(group, name, H5P_DEFAULT) : -1;
-      if (member >= 0)
-      {
-        reader(member);
-        H5Gclose(member);
-      }
-      free(name);
-    });
-  }
+  ForEachName(group, manner, [&](const char* name) {
+    const hid_t member = H5Gopen2(group, name, H5P_DEFAULT);
+    if (member >= 0)
+    {
+      reader(member);
+      H5Gclose(member);
+    }
+  });
 }
 
 hid_t OpenFile()
@@ -262,7 +303,7 @@ void ReadFile(Manner manner)
 
 int main(int argc, char** argv)
 {
-  Manner manner{nullptr, nullptr, H5Pcreate(H5P_DATASET_XFER), false, Until::TheFirstFault};
+  Manner manner{nullptr, nullptr, H5Pcreate(H5P_DATASET_XFER), false, false, Until::TheFirstFault};
   H5Pset_buffer(manner.transfer, kConversionBufferBytes, nullptr, nullptr);
   int next = 1;
   for (; next < argc && strncmp(argv[next], "--", 2) == 0; ++next)
@@ -272,6 +313,7 @@ int main(int argc, char** argv)
       FillFreshMemory();
     }
     manner.impatient = manner.impatient || strcmp(argv[next], "--impatient") == 0;
+    manner.only_open = manner.only_open || strcmp(argv[next], "--open") == 0;
     if (strcmp(argv[next], "--until-crash") == 0)
     {
       manner.until = Until::Crash;

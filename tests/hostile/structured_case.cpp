@@ -51,6 +51,14 @@ void WriteStructuredCase(const std::string& path, std::uint64_t number)
   WriteJob(path, numbers, plan, form);
 }
 
+void WriteForeignFile(const std::string& back_to)
+{
+  Numbers numbers(0);
+  FileWriter writer(kForeignFile, false, 0, numbers);
+  writer.Write(PlanSoundJob(numbers, 1));
+  writer.WriteWayBack(back_to);
+}
+
 // Each form of HDF5's structures is there in a small job, so that many cases can be run and most changes meet something
 // that is read; whole jobs stand for the way of a load from one command to the next.
 std::vector<std::string> SoundFiles(const std::string& path)

@@ -15,6 +15,9 @@ namespace
 // A count above this is a damaged file or none of a parameter file: its values would not fit into memory.
 constexpr hssize_t kMostValues = 100'000'000;
 
+// HDF5 zeroes its buffer at each read, by default a megabyte. Most keys have one value.
+constexpr std::size_t kTransferBytes = 16384;
+
 struct Link
 {
   std::string name;
@@ -71,6 +74,20 @@ const char* LinkText(H5L_type_t type)
   }
 }
 
+hid_t SmallTransfer()
+{
+  const hid_t list = H5Pcreate(H5P_DATASET_XFER);
+  H5Pset_buffer(list, kTransferBytes, nullptr, nullptr);
+  return list;
+}
+
+// All elements of a dataset.
+bool Read(hid_t dataset, hid_t type, void* elements)
+{
+  static const hid_t transfer = SmallTransfer();  // for HDF5 to close
+  return H5Dread(dataset, type, H5S_ALL, H5S_ALL, transfer, elements) >= 0;
+}
+
 // Sequences as HDF5 gives them, which leaves their memory to the reader.
 class Sequences
 {
@@ -78,7 +95,7 @@ public:
   Sequences(hid_t dataset, hid_t type, std::size_t count)
     : m_type(type), m_space(H5Dget_space(dataset), H5Sclose), m_values(count)
   {
-    m_good = H5Dread(dataset, type, H5S_ALL, H5S_ALL, H5P_DEFAULT, m_values.data()) >= 0;
+    m_good = Read(dataset, type, m_values.data());
   }
   Sequences(const Sequences&) = delete;
   Sequences& operator=(const Sequences&) = delete;
@@ -104,7 +121,7 @@ private:
 template <class Element>
 bool ReadElements(hid_t dataset, hid_t memory_type, std::vector<Element>& elements)
 {
-  return elements.empty() || H5Dread(dataset, memory_type, H5S_ALL, H5S_ALL, H5P_DEFAULT, elements.data()) >= 0;
+  return elements.empty() || Read(dataset, memory_type, elements.data());
 }
 
 template <class Element>
