@@ -26,6 +26,9 @@ OTHER_NAME = {
     "GROUP": "FILE", "SMOOTH": "STOP",
 }
 
+OTHER_FUNCTION = {"DvCount": "PlainCount", "DvName": "PlainName", "MergedDvMembers": "OptimizeDvReferences",
+                  "OptimizeDvReferences": "MergedDvMembers"}
+
 # Columns that a type needs and other types must not have.
 COLUMNS_OF_TYPE = ("ids", "enumerators", "target")
 
@@ -34,6 +37,7 @@ ENUMERATOR = re.compile(r"(\w+)(\s*=\s*)(\d+)\s*(#.*)?$")
 TEXT_NAME = re.compile(r'text_name = "(\w+)"')
 COUNT = re.compile(r'count = "(\w+)"')
 CONTAINER_ROW = re.compile(r'\s+\{"\w+_",')
+CONTAINER_TABLE = re.compile(r"(\s+m_key_mappings\[Defs::)\w+")
 SET_OF_KINDS = re.compile(r"\s+m_(singleton_commands|list_items) = ")
 
 
@@ -101,11 +105,19 @@ def container_forms(line):
         if found:
             argument = "Defs::GROUP_DEF" if other == "plain" else found[1]
             yield "type", line.replace(found[0], f"{other}({argument})", 1)
+    for function, other in (("Direct", "OfDvUpdate(Items::{})"), ("OperandsOfFormat", "Direct(Items::LIST_BEGIN)")):
+        found = re.search(rf"(?<!::){function}\(Items::(\w+)\)", line)
+        if found:
+            yield "type", line.replace(found[0], other.format(found[1]), 1)
+    for function in re.finditer(r"&(\w+)", line):
+        yield f"function {function[1]}", line.replace(function[0], f"&{OTHER_FUNCTION[function[1]]}", 1)
     yield "absence", "" if CONTAINER_ROW.match(line) else re.sub(r"\{.*\}", "{}", line)
 
 
 def forms(path, lines, number, enumerator_sets):
     line = lines[number]
+    if path == CONTAINER_TABLES and CONTAINER_TABLE.match(line):
+        return [("kind", CONTAINER_TABLE.sub(r"\1SMOOTH", line))]
     if path == CONTAINER_TABLES:
         return container_forms(line) if CONTAINER_ROW.match(line) or SET_OF_KINDS.match(line) else ()
     if FIELD.match(line):

@@ -77,7 +77,7 @@ class Workshop:
             try:
                 found = self.run(path, f"--gtest_filter={tests}", "--gtest_brief=1", "--gtest_fail_fast", timeout=300)
             except subprocess.TimeoutExpired:
-                return program
+                return f"the patience with {program}"
             if found.returncode != 0:
                 return program
         return None
@@ -97,8 +97,8 @@ def digest(*texts):
 
 def digest_of_sources():
     """What is found holds for these sources alone."""
-    folders = [ROOT / name / "OrvelCommands" for name in ("src", "tests")]
-    paths = sorted(path for folder in folders for path in folder.rglob("*") if path.is_file())
+    folders = [ROOT / name for name in ("src", "tests/OrvelCommands", "tests/support", "tests/mutation", "cmake")]
+    paths = sorted(path for folder in folders for path in folder.rglob("*") if path.is_file() and path.suffix != ".pyc")
     return digest(*(path.read_text(encoding="utf-8") for path in paths))
 
 
@@ -156,7 +156,7 @@ def main():
         random.Random(0).shuffle(changes)
         changes = changes[:options.sample]
     sources = digest_of_sources()
-    keys = {change: digest(sources, str(tests), change.name) for change in changes}
+    keys = {change: digest(sources, str(tests), change.name, change.text) for change in changes}
     if options.afresh:
         RESULTS.unlink(missing_ok=True)
     WORK.mkdir(parents=True, exist_ok=True)

@@ -46,8 +46,8 @@ struct FailureText;
 ///
 /// \warning HDF5 writes the values at once and the tree that leads to them as it finds time, at the latest as the
 /// storage is destroyed. A disk that is full by then, or a process that is killed before, can leave a file in which
-/// also what was there before cannot be reached any more, and a destructor reports nothing. Fill a copy and rename it
-/// where that matters.
+/// also what was there before cannot be reached any more. A destructor reports nothing; after a full disk HDF5 itself
+/// crashes as the process ends. Fill a copy and rename it where that matters.
 ///
 /// \warning Copies share one open file, and each of them deletes it when destroyed: at most one of the objects that
 /// share a file may ever be destroyed. An assignment does not release the file that the target held.

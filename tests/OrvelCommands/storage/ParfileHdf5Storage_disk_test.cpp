@@ -151,6 +151,25 @@ TEST_F(ParfileHdf5StorageDisk, WithoutRoomTakesCommandsAndRemovalsThatItCanOnlyK
   });
 }
 
+// Nothing can be thrown then; HDF5's binding tells standard error.
+TEST_F(ParfileHdf5StorageDisk, WithoutRoomInTheEndLosesAlsoWhatWasInTheFile)
+{
+  InAProcessOfItsOwn(
+    [] {
+      AddOneOfEach(StorageWithCommand());
+      const ParfileHdf5Storage storage;
+      FillUp();
+      for (int number = 0; number < 200; ++number)
+      {
+        storage.AddCommand("DV_", "other_" + std::to_string(number));
+      }
+    },
+    "H5Gclose failed");
+  InAProcessOfItsOwn([] {
+    EXPECT_NE(FailureOf([] { ReadOnlyStorage().HasCommand("DV_", "porosity"); }).message, "nothing was thrown");
+  });
+}
+
 TEST_F(ParfileHdf5StorageDisk, WithoutTheRightToWriteFailsInOpeningForWritingAlone)
 {
   InAProcessOfItsOwn([] {

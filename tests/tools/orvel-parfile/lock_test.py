@@ -20,6 +20,7 @@ from tree import tree_of
 SET = ("set", "DV_", "porosity", "INITIAL_", "0.7")
 IMPORT = ("import", EXAMPLES / "smooth" / "job.toml", "--force")
 READ = (("check", "--ignore", "response-or-operator"), ("show",), ("export",))
+GRAPH = (("graph", "-o", "job.dot"), ("graph", "-o", "job.svg"))
 CHANGE = (SET, ("unset", "DV_", "porosity", "INITIAL_"), IMPORT, ("init", "--force"))
 
 
@@ -143,7 +144,7 @@ class ReadOnlyPlaces(LockTest):
 
     def test_that_are_folders_are_refused_by_every_change(self):
         self.protect(self.folder, 0o555)
-        for arguments in CHANGE:
+        for arguments in CHANGE + GRAPH:
             with self.subTest(arguments):
                 self.assert_refused(arguments, f"nothing can be written in {self.folder}: Permission denied\n",
                                     preexec_fn=give_up_privileges)
@@ -198,6 +199,14 @@ class FullDisks(LockTest):
             self.tool("set", "MODEL_", "duct", "FILE_", "x" * 100_000, preexec_fn=self.limit(len(before) + 1000)))
         self.assertEqual(before, self.file.read_bytes())
         self.assertEqual([FILE_NAME], names_in(self.folder))
+
+    def test_leave_the_old_graph(self):
+        for arguments, subject in zip(GRAPH, ("job.dot", "a temporary file")):  # which holds the text for dot
+            with self.subTest(arguments):
+                graph = self.write(arguments[-1], "what was there")
+                self.assert_refused(arguments, f"{subject} cannot be written: File too large\n",
+                                    preexec_fn=self.limit(100))
+                self.assertEqual("what was there", graph.read_text())
 
     def test_during_import_at_any_place(self):
         self.assertEqual(GOOD, self.tool(*IMPORT).code)

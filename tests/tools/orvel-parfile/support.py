@@ -24,6 +24,9 @@ if not os.environ.get("ORVEL_PARFILE"):
     raise SystemExit("the environment variable ORVEL_PARFILE must name the tool")
 TOOL = os.path.abspath(os.environ["ORVEL_PARFILE"])
 
+# Their usual exit code is that of faults in a job.
+SANITIZERS = {"ASAN_OPTIONS": "exitcode=99", "UBSAN_OPTIONS": "exitcode=99"}
+
 GOOD = 0
 FAULTS = 1
 UNUSABLE = 2
@@ -65,9 +68,11 @@ class ToolTest(unittest.TestCase):
         run = subprocess.run(
             [TOOL, *map(str, arguments)], cwd=options.pop("cwd", self.folder), stdin=subprocess.DEVNULL,
             stdout=options.pop("stdout", subprocess.PIPE), stderr=subprocess.PIPE, timeout=120,
-            env={**os.environ, "TMPDIR": str(self.scratch), **options.pop("environment", {})}, check=False, **options)
+            env={**os.environ, **SANITIZERS, "TMPDIR": str(self.scratch), **options.pop("environment", {})}, check=False,
+            **options)
         result = Result(run.returncode, (run.stdout or b"").decode(), run.stderr.decode())
         self.assertNotIn("HDF5-DIAG", result.out + result.err)
+        self.assertLessEqual(result.code, UNUSABLE, result.err)  # else a sanitizer has something to say
         self.assertEqual(names_in(self.scratch), [])
         return result
 
