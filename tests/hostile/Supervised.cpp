@@ -22,6 +22,13 @@
 #define ORVEL_TEST_SANITIZED 0
 #endif
 
+#if defined(__SANITIZE_ADDRESS__)
+extern "C" const char* __asan_default_options()  // NOLINT(bugprone-reserved-identifier): the name that it looks for
+{
+  return "exitcode=99";
+}
+#endif
+
 namespace
 {
 
