@@ -6,8 +6,10 @@
 //
 // --fill fills fresh memory, so that a use of it does not go by unseen; --impatient leaves out keys of too many values,
 // as a run over many files does. The others are for a file that has both faults, of which a program meets the one that
-// its order brings first. --open opens keys without reading them. With --until-crash and --until-hang each group and
-// key has a process of its own, and only the fault that is asked for ends the whole.
+// its order brings first. --open opens keys without reading them. With --until-crash and --until-hang each group, key
+// and read has a process of its own, and only the fault that is asked for ends the whole.
+//
+// Want of memory must not look like a crash.
 #include "hostile/limits.h"
 
 #include <hdf5.h>
@@ -21,6 +23,7 @@
 #include <unistd.h>
 
 #include <initializer_list>
+#include <new>
 #include <string>
 #include <vector>
 
@@ -97,8 +100,15 @@ void Apart(Manner manner, Reader reader)
 
 herr_t NoteName(hid_t, const char* name, const H5L_info_t*, void* names)
 {
-  static_cast<std::vector<std::string>*>(names)->emplace_back(name);
-  return 0;
+  try
+  {
+    static_cast<std::vector<std::string>*>(names)->emplace_back(name);
+    return 0;
+  }
+  catch (const std::bad_alloc&)
+  {
+    return -1;
+  }
 }
 
 // Those that come before a broken link, too: a storage that looks for one of them ends its walk there. A storage asks
@@ -119,11 +129,13 @@ std::vector<std::string> NamesOf(hid_t group)
 void AskForName(hid_t group, hsize_t position)
 {
   const ssize_t length = H5Lget_name_by_idx(group, ".", H5_INDEX_NAME, H5_ITER_INC, position, nullptr, 0, H5P_DEFAULT);
-  if (length >= 0)
+  auto* name = length >= 0 ? static_cast<char*>(malloc(static_cast<size_t>(length) + 1)) : nullptr;
+  if (name != nullptr)
   {
-    std::vector<char> name(static_cast<size_t>(length) + 1);
-    H5Lget_name_by_idx(group, ".", H5_INDEX_NAME, H5_ITER_INC, position, name.data(), name.size(), H5P_DEFAULT);
+    H5Lget_name_by_idx(group, ".", H5_INDEX_NAME, H5_ITER_INC, position, name, static_cast<size_t>(length) + 1,
+                       H5P_DEFAULT);
   }
+  free(name);
 }
 
 void FollowReference(hid_t dataset, const hobj_ref_t* reference)

@@ -146,17 +146,20 @@ void AskForKey(const OrvelParfileStorageCmdContainer& storage, const std::string
                const std::string& key)
 {
   Try([&] { storage.GetNumElements(kind, id, key); });
+  Try([&] { storage.HasElement(kind, id, key); });
   for (const std::uint64_t index : {0, 1, 2, 1000})
   {
     int number = 0;
     double real = 0;
     std::string text;
     std::vector<int> list;
+    std::vector<double> reals;
     Try([&] { storage.GetValue(kind, id, key, index, vtmInteger, number); });
     Try([&] { storage.GetEnumValue(kind, id, key, index, vtmEnum, number); });
     Try([&] { storage.GetValue(kind, id, key, index, vtmDouble, real); });
     Try([&] { storage.GetValue(kind, id, key, index, vtmString, text); });
     Try([&] { storage.GetValue(kind, id, key, index, vtmIntegerList, list); });
+    Try([&] { storage.GetValue(kind, id, key, index, vtmDoubleList, reals); });
     Try([&] { storage.GetReference(kind, id, key, index, text); });
   }
 }
@@ -167,6 +170,9 @@ void AskForCommand(const OrvelParfileStorageCmdContainer& storage, const orvel::
   const std::string kind(command.kind);
   std::string id;
   Try([&] { storage.GetCommandName(kind, position, id); });
+  Try([&] { storage.HasCommand(kind, id); });
+  AskForKey(storage, kind, id, "NO_KEY_");
+  AskForKey(storage, kind, "nobody", "TYPE_");
   for (const orvel::schema::Field& field : command.fields)
   {
     AskForKey(storage, kind, id, std::string(field.key));
@@ -188,6 +194,7 @@ void AskForAll(const OrvelParfileStorageCmdContainer& storage)
     std::string id;
     Try([&] { storage.GetCommandName(std::string(command.kind), count, id); });
   }
+  AskForKey(storage, "NO_KIND_", "nobody", "TYPE_");
 }
 
 }  // namespace
