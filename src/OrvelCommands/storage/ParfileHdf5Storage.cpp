@@ -5,7 +5,6 @@
 #include <array>
 #include <cstdlib>
 #include <cstring>
-#include <optional>
 #include <type_traits>
 
 using namespace orvel::detail;
@@ -183,30 +182,27 @@ bool LieInOneFile(const H5::DataSet& dataset, const H5::Group& group)
   return one == other;
 }
 
-// How a group leads to a member, if it has one: one pass over the links in name order, ending at the match. It raises
-// nothing for an absent name and compares names as they stand, where HDF5's own test would resolve "/" and ".".
-std::optional<H5L_type_t> FindLink(const H5::Group& group, const std::string& name)
+// One pass over the links of a group in name order, ending at the match. It raises nothing for an absent name and
+// compares names as they stand, where HDF5's own test would resolve "/" and ".".
+bool HasMatch(const H5::Group& group, H5L_iterate_t is_match, const void* wanted)
 {
-  struct Search
-  {
-    const std::string& name;
-    std::optional<H5L_type_t> type;
-  } search{name, std::nullopt};
-  const auto is_name = [](hid_t, const char* member, const H5L_info_t* link, void* data) -> herr_t {
-    auto& wanted = *static_cast<Search*>(data);
-    if (wanted.name != member)
-    {
-      return 0;
-    }
-    wanted.type = link->type;
-    return 1;
-  };
   hsize_t start = 0;
-  if (H5Literate(group.getId(), H5_INDEX_NAME, H5_ITER_INC, &start, is_name, &search) < 0)
+  const herr_t result =
+    H5Literate(group.getId(), H5_INDEX_NAME, H5_ITER_INC, &start, is_match, const_cast<void*>(wanted));
+  if (result < 0)
   {
     throw H5::GroupIException("ParfileHdf5Storage::HasGroupOrSet", hdf5_failures::kNoWalk);
   }
-  return search.type;
+  return result > 0;
+}
+
+// Whether a group has a member in its own file, which a soft or external link need not lead to.
+bool HasHardLink(const H5::Group& group, const std::string& name)
+{
+  const auto is_match = [](hid_t, const char* member, const H5L_info_t* link, void* wanted) -> herr_t {
+    return link->type == H5L_TYPE_HARD && *static_cast<const std::string*>(wanted) == member ? 1 : 0;
+  };
+  return HasMatch(group, is_match, &name);
 }
 
 // The name of the link in a kind's group that leads to the object, if there is one: one pass that opens no member.
@@ -290,7 +286,10 @@ ParfileHdf5Storage::~ParfileHdf5Storage()
 
 bool ParfileHdf5Storage::HasGroupOrSet(const H5::Group& group, const std::string& name) const
 {
-  return FindLink(group, name).has_value();
+  const auto is_match = [](hid_t, const char* member, const H5L_info_t*, void* wanted) -> herr_t {
+    return *static_cast<const std::string*>(wanted) == member ? 1 : 0;
+  };
+  return HasMatch(group, is_match, &name);
 }
 
 std::unique_ptr<H5::DataType> ParfileHdf5Storage::MakeDataType(VtmType type) const
@@ -360,7 +359,7 @@ void ParfileHdf5Storage::GetReference(const std::string& command, const std::str
     // Asked for the path of a dereferenced group, HDF5 searches the whole file. A key bears the name of the kind that
     // it refers to, so a look at that kind's links finds nearly every name first. A reference is an address, which
     // means something in its own file alone.
-    const bool is_found = LieInOneFile(dataset, m_parfile_group) && FindLink(m_parfile_group, key) == H5L_TYPE_HARD &&
+    const bool is_found = LieInOneFile(dataset, m_parfile_group) && HasHardLink(m_parfile_group, key) &&
                           FindLinkTo(m_parfile_group, key, reference, target_id_name);
     if (!is_found)
     {
