@@ -12,8 +12,8 @@
 std::filesystem::path ParameterFilePath(const std::filesystem::path& argument);
 
 /// The same for a file that is to be made.
-/// Throws: UnusableInput also for a file that is there, unless \p force; with it, for one that cannot be replaced or that
-/// is write-protected.
+/// Throws: UnusableInput also for a file that is there, unless \p force; with it, for one that cannot be replaced or
+/// that is write-protected.
 std::filesystem::path NewParameterFilePath(const std::filesystem::path& argument, bool force);
 
 /// A file that its owner has protected is not replaced behind his back, although its folder may be written.
