@@ -1,6 +1,7 @@
 #include "hostile/FileWriter.h"
 
 #include "hostile/case_file.h"
+#include "hostile/limits.h"
 #include "hostile/random_elements.h"
 
 #include <array>
@@ -52,11 +53,10 @@ Id AccessList(bool newest_format)
   return list;
 }
 
-// With its default buffer HDF5 zeroes a megabyte for each element.
 Id TransferList()
 {
   Id list{H5Pcreate(H5P_DATASET_XFER), H5Pclose, "make a transfer list"};
-  H5Pset_buffer(list, 4096, nullptr, nullptr);
+  H5Pset_buffer(list, kConversionBufferBytes, nullptr, nullptr);
   return list;
 }
 

@@ -22,6 +22,7 @@
 #define ORVEL_TEST_SANITIZED 0
 #endif
 
+// kCrashExit, which a program's own failure must not look like.
 #if defined(__SANITIZE_ADDRESS__)
 extern "C" const char* __asan_default_options()  // NOLINT(bugprone-reserved-identifier): the name that it looks for
 {

@@ -29,7 +29,7 @@ struct Ends
 /// Throws: TooManyValues if \p patient is false; whatever else the library throws and may not throw;
 /// std::logic_error when something stays open that a storage has to close.
 ///
-/// \p tell is called with each larger step that has ended well: "opened", "Gyre_Parfile loaded", "Gyre_Parfile shown"
-/// and the same of Smooth_Parfile.
+/// \p tell is called with each larger step that has ended well: "opened", "Gyre_Parfile loaded", "Gyre_Parfile
+/// validated", "Gyre_Parfile shown" and the same of Smooth_Parfile.
 Ends ExerciseFile(
   std::uint64_t number, bool patient, const std::function<void(const std::string&)>& tell = [](const std::string&) {});

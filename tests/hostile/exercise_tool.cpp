@@ -9,8 +9,10 @@
 #include <CLI/CLI.hpp>
 #include <H5Cpp.h>
 
+#include <algorithm>
 #include <iostream>
 #include <sstream>
+#include <stdexcept>
 
 namespace
 {

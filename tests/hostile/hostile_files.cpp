@@ -256,31 +256,32 @@ private:
   Outcome RunReference(End expected, const std::vector<std::string>& arguments, Limit limit) const
   {
     Outcome outcome;
-    const auto attempt = [&](const std::string& program, std::vector<std::string> first) {
+    const auto attempt = [&](const std::string& manner, const std::string& program, std::vector<std::string> first) {
       if (outcome.end != expected)
       {
-        const std::string manner = first.empty() ? "" : ", " + first.front();
         first.insert(first.end(), arguments.begin(), arguments.end());
         outcome = RunProgram(program, first, 0, limit);
         outcome.detail += manner;
       }
     };
-    attempt(m_options.reference, {});
-    attempt(m_options.reference, {"--fill"});
+    const auto attempt_with = [&](const std::string& option) { attempt(", " + option, m_options.reference, {option}); };
+    attempt("", m_options.reference, {});
+    attempt_with("--fill");
     if (expected == End::Hang)
     {
-      attempt(m_options.reference, {"--until-hang"});
+      attempt_with("--until-hang");
     }
     if (expected == End::Crash)
     {
-      attempt(m_options.reference, {"--open"});
-      attempt(m_options.reference, {"--until-crash"});
+      attempt_with("--open");
+      attempt_with("--until-crash");
     }
     if (expected == End::Crash && !m_options.valgrind.empty())
     {
       const std::string exit_code = "--error-exitcode=" + std::to_string(kCrashExit);
-      attempt(m_options.valgrind, {"--quiet", exit_code, m_options.reference});
-      attempt(m_options.valgrind, {"--quiet", exit_code, m_options.reference, "--until-crash"});
+      attempt(", valgrind", m_options.valgrind, {"--quiet", exit_code, m_options.reference});
+      attempt(", valgrind --until-crash", m_options.valgrind,
+              {"--quiet", exit_code, m_options.reference, "--until-crash"});
     }
     return outcome;
   }

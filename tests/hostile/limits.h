@@ -18,5 +18,9 @@ constexpr unsigned long long kStackLimit = 256ULL << 10U;
 /// A key that declares more values than these is not read to the end, except in the first such cases of a run.
 constexpr long kPatience = 100000;
 
+/// As small as the storage's: where a file leads a conversion astray, it leaves a small buffer and the default of 1 MiB
+/// not, which HDF5 also zeroes for each element.
+constexpr unsigned kConversionBufferBytes = 4096;
+
 /// With which sanitizers and valgrind have to be told to end a program; no program of ours uses it.
 constexpr int kCrashExit = 99;

@@ -33,10 +33,6 @@ namespace
 constexpr hssize_t kReadAsEveryType = 3;
 constexpr int kAttempts = 3;
 
-// As small as the storage's: where a file leads a conversion astray, it leaves a small buffer and the default of 1 MiB
-// not.
-constexpr size_t kConversionBufferBytes = 4096;
-
 // Of processor time, for a process that may hang while a crash is looked for.
 constexpr unsigned kSecondsBeforeACrash = 1;
 

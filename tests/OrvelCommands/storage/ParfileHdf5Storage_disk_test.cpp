@@ -52,17 +52,15 @@ ParfileHdf5Storage& StorageForGood()
 struct WriteOfAnElement
 {
   const char* key;
-  std::function<void(const char* key)> add;
-  std::function<void(const char* key, int index)> set;
+  std::function<void()> add;
+  std::function<void(int index)> set;
 };
 
 template <class Value>
 WriteOfAnElement WriteOf(const ParfileHdf5Storage& storage, const char* key, VtmType type, Value value)
 {
-  return {key, [&storage, type, value](const char* name) { storage.AddValue("DV_", "porosity", name, type, value); },
-          [&storage, type, value](const char* name, int index) {
-            storage.SetValue("DV_", "porosity", name, index, type, value);
-          }};
+  return {key, [&storage, key, type, value] { storage.AddValue("DV_", "porosity", key, type, value); },
+          [&storage, key, type, value](int index) { storage.SetValue("DV_", "porosity", key, index, type, value); }};
 }
 
 // One of each kind that the interface takes, with a key for it.
@@ -87,7 +85,7 @@ void AddOneOfEach(const ParfileHdf5Storage& storage)
 {
   for (const WriteOfAnElement& write : WritesOfAllTypes(storage))
   {
-    write.add(write.key);
+    write.add();
   }
   AddReferenceTo(storage, "OTHER_");
 }
@@ -102,7 +100,7 @@ TEST_F(ParfileHdf5StorageDisk, WithoutRoomFailsInAddingAnElementOfAnyType)
     FillUp();
     for (const WriteOfAnElement& write : WritesOfAllTypes(storage))
     {
-      EXPECT_THAT(FailureOf([&] { write.add(write.key); }), IsWriteFailure()) << write.key;
+      EXPECT_THAT(FailureOf([&] { write.add(); }), IsWriteFailure()) << write.key;
     }
     EXPECT_THAT(FailureOf([&] { AddReferenceTo(storage, "OTHER_"); }), IsWriteFailure());
   });
@@ -116,8 +114,8 @@ TEST_F(ParfileHdf5StorageDisk, WithoutRoomFailsInGrowingAKeyOfAnyType)
     FillUp();
     for (const WriteOfAnElement& write : WritesOfAllTypes(storage))
     {
-      EXPECT_THAT(FailureOf([&] { write.add(write.key); }), IsWriteFailure()) << write.key;
-      EXPECT_THAT(FailureOf([&] { write.set(write.key, 3); }), IsWriteFailure()) << write.key;
+      EXPECT_THAT(FailureOf([&] { write.add(); }), IsWriteFailure()) << write.key;
+      EXPECT_THAT(FailureOf([&] { write.set(3); }), IsWriteFailure()) << write.key;
     }
     EXPECT_THAT(FailureOf([&] { AddReferenceTo(storage, "OTHER_"); }), IsWriteFailure());
   });

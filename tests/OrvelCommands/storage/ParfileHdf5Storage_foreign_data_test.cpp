@@ -23,6 +23,16 @@ protected:
     plain_hdf5::MakeGroup("/PARFILE/DV_");
     plain_hdf5::MakeGroup("/PARFILE/DV_/porosity");
   }
+
+  // A reference, and at its address the filter "ours" in this file and "theirs" in its copy, other.hdf5.
+  static void MakeTwoFilesWithOneAddress()
+  {
+    plain_hdf5::MakeGroup("/PARFILE/FILTER_");
+    plain_hdf5::MakeGroup("/PARFILE/FILTER_/theirs");
+    plain_hdf5::MakeReferences("/PARFILE/DV_/porosity/FILTER_", {"/PARFILE/FILTER_/theirs"});
+    std::filesystem::copy_file(PARFILE_STORAGE_FILE, "other.hdf5");
+    plain_hdf5::Move("/PARFILE/FILTER_/theirs", "/PARFILE/FILTER_/ours");
+  }
 };
 
 const std::string kKey = "/PARFILE/DV_/porosity/KEY_";
@@ -283,14 +293,9 @@ TEST_F(ParfileHdf5StorageForeignData, GivesTheNameOfATargetAndNotOfALinkToIt)
   EXPECT_EQ(ReferenceOf(ReadOnlyStorage(), "FILTER_", 1), "axis");
 }
 
-// In a copy of a file the same addresses belong to groups that the copied references were made for.
 TEST_F(ParfileHdf5StorageForeignData, NamesTheTargetInTheFileThatAKeyOfAnotherFileRefersInto)
 {
-  plain_hdf5::MakeGroup("/PARFILE/FILTER_");
-  plain_hdf5::MakeGroup("/PARFILE/FILTER_/theirs");
-  plain_hdf5::MakeReferences("/PARFILE/DV_/porosity/FILTER_", {"/PARFILE/FILTER_/theirs"});
-  std::filesystem::copy_file(PARFILE_STORAGE_FILE, "other.hdf5");
-  plain_hdf5::Move("/PARFILE/FILTER_/theirs", "/PARFILE/FILTER_/ours");
+  MakeTwoFilesWithOneAddress();
   plain_hdf5::Remove("/PARFILE/DV_/porosity/FILTER_");
   plain_hdf5::MakeExternalLink("/PARFILE/DV_/porosity/FILTER_", "other.hdf5", "/PARFILE/DV_/porosity/FILTER_");
   EXPECT_EQ(ReferenceOf(ReadOnlyStorage(), "FILTER_", 1), "theirs");
@@ -298,11 +303,7 @@ TEST_F(ParfileHdf5StorageForeignData, NamesTheTargetInTheFileThatAKeyOfAnotherFi
 
 TEST_F(ParfileHdf5StorageForeignData, NamesTheTargetInItsFileWhereItsKindLiesInAnother)
 {
-  plain_hdf5::MakeGroup("/PARFILE/FILTER_");
-  plain_hdf5::MakeGroup("/PARFILE/FILTER_/theirs");
-  plain_hdf5::MakeReferences("/PARFILE/DV_/porosity/FILTER_", {"/PARFILE/FILTER_/theirs"});
-  std::filesystem::copy_file(PARFILE_STORAGE_FILE, "other.hdf5");
-  plain_hdf5::Move("/PARFILE/FILTER_/theirs", "/PARFILE/FILTER_/ours");
+  MakeTwoFilesWithOneAddress();
   plain_hdf5::Move("/PARFILE/FILTER_", "/PARFILE/KEPT_");
   plain_hdf5::MakeExternalLink("/PARFILE/FILTER_", "other.hdf5", "/PARFILE/FILTER_");
   EXPECT_EQ(ReferenceOf(ReadOnlyStorage(), "FILTER_", 1), "ours");
