@@ -1,3 +1,4 @@
+#include "OrvelCommands/parfile/command_list.h"
 #include "OrvelCommands/parfile/for_each_command.h"
 #include "OrvelCommands/parfile/Gyre_Parfile.h"
 #include "support/complete_job.h"
@@ -6,8 +7,11 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
+#include <memory>
 #include <new>
 #include <set>
+#include <vector>
 
 using testing::IsEmpty;
 
@@ -80,6 +84,32 @@ std::size_t FailEachAllocation(MakeStorage make_storage, Check check)
   return number - 1;
 }
 
+// A load of one command into a list of its own.
+Attempt LoadOneStopWithout(const RecordingStorage& job, std::size_t number)
+{
+  Attempt attempt;
+  HeapWatch watch;
+  {
+    const RecordingStorage storage = job;
+    std::vector<STOP_*> list;
+    watch.FailAllocation(number);
+    try
+    {
+      orvel::detail::LoadOneCommand(storage, 0, list);
+    }
+    catch (const std::bad_alloc&)
+    {
+      attempt.reported = true;
+    }
+    attempt.failed = watch.HasFailed();
+    watch.FailAllocation(0);
+    attempt.in_vectors = list.size();
+    std::for_each(list.begin(), list.end(), std::default_delete<STOP_>());
+  }
+  attempt.lost = watch.SizesLeft();
+  return attempt;
+}
+
 void ExpectReport(const Attempt& attempt, std::size_t number)
 {
   EXPECT_TRUE(attempt.reported) << number;
@@ -103,6 +133,21 @@ TEST(GyreParfileWithoutMemory, CanBeDestroyedWhicheverAllocationOfALoadOfParsedC
   TwinJob job;
   Gyre_Parfile(job.Parsed()).Load();  // what the first load makes for good is there now
   EXPECT_GT(FailEachAllocation([&]() -> OrvelParfileStorage& { return job.Parsed(); }, ExpectReport), 100U);
+}
+
+// The growth of the list is the last that allocates.
+TEST(GyreParfileWithoutMemory, DeletesALoadedCommandThatItsListCannotTake)
+{
+  const RecordingStorage job = CompleteJob();
+  Attempt last;
+  std::size_t number = 1;
+  for (Attempt attempt = LoadOneStopWithout(job, number); attempt.failed; attempt = LoadOneStopWithout(job, ++number))
+  {
+    last = attempt;
+  }
+  EXPECT_TRUE(last.reported);
+  EXPECT_EQ(last.in_vectors, 0U);
+  EXPECT_THAT(last.lost, IsEmpty());
 }
 
 // HDF5 tells the name of a reference's target also without memory for it in the walk over the names, so that not every
