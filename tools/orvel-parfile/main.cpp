@@ -14,6 +14,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <iostream>
+#include <sstream>
 #include <utility>
 
 namespace
@@ -70,7 +71,10 @@ int Run(int argument_count, char** arguments)
   }
   catch (const CLI::ParseError& error)
   {
-    return tool.exit(error) == 0 ? FlushOutput() : exitUnusable;
+    std::ostringstream fault;
+    const bool is_fault = tool.exit(error, std::cout, fault) != 0;
+    std::cerr << PrintableLines(fault.str());
+    return is_fault ? exitUnusable : FlushOutput();
   }
   catch (const FaultsPrinted&)
   {

@@ -1,9 +1,11 @@
 """orvel-parfile as a command: help, version, wrong use, and what goes to which stream."""
 
+import json
 import re
 import unittest
 
-from support import EXAMPLES, FAULTS, FILE_NAME, GOOD, ROOT, UNUSABLE, ToolTest, names_in
+from support import (EXAMPLES, FAULTS, FILE_NAME, GOOD, ROOT, UNUSABLE, ToolTest, minimal_job, names_in, references, texts,
+                     write_parameter_file)
 
 
 class HelpAndVersion(ToolTest):
@@ -145,9 +147,10 @@ class Streams(ToolTest):
 
     def test_data_that_cannot_be_written_is_no_success(self):
         self.tool("import", EXAMPLES / "bent_duct" / "job.toml")
-        for arguments in (("show",), ("check",)):
+        faulty = EXAMPLES / "bent_duct_broken" / "job.toml"
+        for arguments in (("show",), ("check",), ("check", faulty)):
             with self.subTest(arguments), open("/dev/full", "wb") as full:
-                self.assertNotEqual(GOOD, self.tool(*arguments, stdout=full).code)
+                self.assertEqual((UNUSABLE, "", "the output cannot be written\n"), self.tool(*arguments, stdout=full))
 
     def test_the_place_of_a_run_does_not_matter(self):
         place = self.folder / "run"
@@ -157,6 +160,73 @@ class Streams(ToolTest):
         self.assertEqual(expected, self.tool("show", cwd=place).out)
         self.assertEqual(expected, self.tool("show", f"../folder/run/{FILE_NAME}").out)
         self.assertEqual(expected, self.tool("show", place, cwd="/").out)
+
+
+def texts_of(value):
+    """All names and texts of a value of JSON."""
+    if isinstance(value, str):
+        yield value
+    elif isinstance(value, (dict, list)):
+        for part in [*value, *(value.values() if isinstance(value, dict) else ())]:
+            yield from texts_of(part)
+
+
+class SteeringCharacters(ToolTest):
+    """Characters that clear a terminal, turn the direction of writing or end a line."""
+
+    NAME = "a\x1b[2J\u009b2J\u202eb\u2028\u2066\x7fc\u00e4"
+    ESCAPED = "a\\u001b[2J\\u009b2J\\u202eb\\u2028\\u2066\\u007fc\u00e4"
+
+    def setUp(self):
+        super().setUp()
+        job = minimal_job()
+        job["MODEL_"]["duct"]["FILE_"] = texts(self.NAME)
+        job["FILTER_"] = {self.NAME: {"PATCH_ID_": texts(self.NAME), self.NAME: texts(self.NAME)}}
+        job["DV_"]["porosity"].update({"FILTER_": references(f"FILTER_/{self.NAME}"), "ELEMENT_GROUP_": texts(self.NAME)})
+        job[self.NAME] = {self.NAME: {}}
+        write_parameter_file(self.folder, job)
+        (self.folder / "bare").mkdir()
+        write_parameter_file(self.folder / "bare", minimal_job())
+        self.write("model_ids.toml", 'element_groups = ["box"]\n')
+
+    def assert_harmless(self, *arguments):
+        result = self.tool(*arguments)
+        for character in set(self.NAME) - set("abc[2J\u00e4"):
+            self.assertNotIn(character, result.out + result.err, arguments)
+        return result
+
+    def test_reach_no_line_of_output(self):
+        for arguments in (("show",), ("show", "FILTER_", self.NAME), ("export",),
+                          ("check", "--model-ids", "model_ids.toml"), ("diff", ".", "bare"), ("diff", "bare", "."), ("graph",),
+                          ("set", "FILTER_", self.NAME, "PATCH_ID_", self.NAME), ("unset", "FILTER_", self.NAME, "PATCH_ID_")):
+            with self.subTest(arguments):
+                self.assertIn(self.ESCAPED, self.assert_harmless(*arguments).out)
+
+    def test_reach_no_fault(self):
+        for arguments in (("show", "STOP_", self.NAME), ("show", f"{self.NAME}/", "DV_"), ("export", self.NAME),
+                          ("set", "DV_", self.NAME, "INITIAL_", "1"), ("set", "DV_", "porosity", self.NAME, "1"),
+                          ("set", "DV_", "porosity", "INITIAL_", self.NAME), ("unset", "DV_", self.NAME),
+                          ("import", self.NAME, "--force"), ("diff", ".", self.NAME), ("show", "--color", self.NAME)):
+            with self.subTest(arguments):
+                result = self.assert_harmless(*arguments)
+                self.assertEqual(UNUSABLE, result.code)
+                self.assertIn(self.ESCAPED, result.err)
+
+    def test_are_told_to_programs_as_escapes(self):
+        for arguments in (("show", "--json"), ("export", "--json"), ("check", "--json", "--model-ids", "model_ids.toml"),
+                          ("diff", "bare", ".", "--json")):
+            with self.subTest(arguments):
+                out = self.assert_harmless(*arguments).out
+                self.assertIn(self.ESCAPED, out)
+                self.assertIn(self.NAME, list(texts_of(json.loads(out))))
+
+    def test_survive_an_export(self):
+        self.write("job.toml", self.tool("export").out)
+        self.assertEqual(GOOD, self.tool("import", "job.toml", "bare", "--force").code)
+        self.assertEqual(GOOD, self.tool("diff", ".", "bare").code)
+
+    def test_are_offered_to_no_shell(self):
+        self.assertEqual((GOOD, "", ""), self.tool("complete", "--", "set", "FILTER_", ""))
 
 
 if __name__ == "__main__":

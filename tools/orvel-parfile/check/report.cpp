@@ -230,5 +230,5 @@ std::string AsJson(const Report& report)
       {"model_ids", report.inventory.model_ids},
       {"references", report.inventory.references}}}};
   // Names in a file need not be UTF-8.
-  return json.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
+  return PrintableLines(json.dump(2, ' ', false, Json::error_handler_t::replace)) + "\n";
 }

@@ -314,5 +314,5 @@ std::string AsJson(const Comparison& comparison)
     differences.push_back(DifferenceJson(difference));
   }
   const Json json = {{"differences", differences}, {"not_compared", comparison.not_compared}};
-  return json.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
+  return PrintableLines(json.dump(2, ' ', false, Json::error_handler_t::replace)) + "\n";
 }

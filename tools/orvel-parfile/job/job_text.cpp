@@ -213,15 +213,10 @@ Json Description(const Job& job)
   return description;
 }
 
-// JSON's escapes are those of TOML, which also wants one for the delete character.
+// JSON's escapes are those of TOML.
 std::string TomlText(const std::string& text)
 {
-  std::string quoted = Json(text).dump();
-  for (std::size_t at = quoted.find('\x7f'); at != std::string::npos; at = quoted.find('\x7f', at))
-  {
-    quoted.replace(at, 1, "\\u007f");
-  }
-  return quoted;
+  return PrintableLines(Json(text).dump());
 }
 
 std::string TomlName(const std::string& name)
@@ -383,5 +378,5 @@ std::string AsJson(const Job& job)
 {
   Json description = Description(job);
   NameNonFinite(description);
-  return description.dump(2) + "\n";
+  return PrintableLines(description.dump(2)) + "\n";
 }

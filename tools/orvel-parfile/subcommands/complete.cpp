@@ -4,7 +4,8 @@
 // not; two lines mean more:
 //   <folders>       names of folders
 //   <files .EXT>    names of folders and of files with this ending
-// What cannot be read has no candidates: nothing of a completion is an error.
+// What cannot be read has no candidates: nothing of a completion is an error. Names that would steer a terminal are
+// left out.
 
 #include "check/rule.h"
 #include "job/contents.h"
@@ -12,6 +13,7 @@
 #include "job/read_job.h"
 #include "subcommands.h"
 #include "support/file_argument.h"
+#include "support/plain_text.h"
 #include "support/raw_words.h"
 #include "support/schema_names.h"
 #include "support/style.h"
@@ -186,6 +188,12 @@ bool TakesValue(const CLI::App& sub, const std::string& word)
   return option != nullptr && option->get_items_expected_max() > 0;
 }
 
+// Whether a shell may list it as it stands.
+bool IsOnePrintableLine(const std::string& text)
+{
+  return PrintableLines(text) == text && text.find('\n') == std::string::npos;
+}
+
 const CLI::App* FindSubcommand(const CLI::App& tool, const std::string& name)
 {
   const auto found = tool.get_subcommands([&](const CLI::App* sub) { return sub->get_name() == name; });
@@ -226,7 +234,10 @@ void AddComplete(CLI::App& tool)
   sub->callback([words, &tool] {
     for (const std::string& candidate : CandidatesFor(tool, RawWords(*words)))
     {
-      std::cout << candidate << "\n";
+      if (IsOnePrintableLine(candidate))
+      {
+        std::cout << candidate << "\n";
+      }
     }
   });
 }

@@ -60,7 +60,7 @@ bool IsUnsafe(const Character& character)
 {
   const std::uint32_t code = character.code;
   return !character.is_utf8 || code < 0x20 || IsIn(code, 0x7F, 0x9F) || code == 0x061C || IsIn(code, 0x200E, 0x200F) ||
-         IsIn(code, 0x2028, 0x202E) || IsIn(code, 0x2066, 0x2069) || (code & 0xFFFEU) == 0xFFFE;
+         IsIn(code, 0x2028, 0x202E) || IsIn(code, 0x2066, 0x2069) || IsIn(code, 0xFFFE, 0xFFFF);
 }
 
 std::string Escaped(const Character& character)

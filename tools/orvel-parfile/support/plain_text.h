@@ -11,7 +11,7 @@
 std::string PlainText(const std::string& text);
 
 /// A text of one or more lines, in which the same characters are written with the same escapes, but for line feeds.
-/// Nothing is quoted, so that a text with a backslash of its own may look the same.
+/// Nothing is quoted, so that a text with a backslash of its own may look the same. Of JSON it makes the same JSON.
 std::string PrintableLines(const std::string& text);
 
 /// Whether all of a text is UTF-8.
