@@ -8,14 +8,8 @@ import unittest
 import h5py
 import numpy
 
-from check_support import CheckTest, Finding, coordinate_system, operator, response, sound_job
+from check_support import ALL_RULES, CheckTest, Finding, coordinate_system, operator, response, sound_job
 from support import FAULTS, GOOD, ROOT, doubles, integer_lists, integers, references, texts
-
-ALL_RULES = [
-    "library", "impossible-name", "foreign-object", "unknown-kind", "unknown-key", "missing-key", "wrong-type",
-    "wrong-count", "not-an-enumerator", "command-count", "unresolved-reference", "wrong-target",
-    "unreachable-command", "reference-cycle", "list-lengths", "response-or-operator", "limits", "no-basis",
-    "unknown-model-id", "unused-group", "unused-model-group"]
 
 FACE_IDS = 'face_groups = ["inlet", "outlet"]\n'
 
@@ -263,6 +257,19 @@ class Enumerators(RulesTest):
         self.assertIn("orvel-parfile set SMOOTH_ s FORMAT_ STL ENUMERATOR VTF 2, where ENUMERATOR is one of ",
                       self.remedies("--job", "smooth", of="not-an-enumerator")[0])
 
+    def test_of_a_list_that_no_remedy_repeats_are_told_what_they_may_be(self):
+        self.build({"SMOOTH_": {"s": {"FORMAT_": integers(*([1] * 21))}}})
+        remedies = self.remedies("--job", "smooth", of="not-an-enumerator")
+        self.assertEqual(21, len(remedies))
+        self.assertEqual({"orvel-parfile set SMOOTH_ s FORMAT_ ENUMERATOR, where ENUMERATOR is one of ASCII_VTF, BDF, CDB, "
+                          "IGES1, IGES2, IGES3, ONF, INP, STL, OUT, UNCOMPRESSED_VTF, VTF, WRL, OBJ, BINARY_VTF"},
+                         set(remedies))
+
+    def test_of_very_many_values_are_told_as_fast_as_they_are_many(self):
+        with h5py.File(self.build({"SMOOTH_": {"s": {}}}), "r+") as file:
+            file["PARFILE/SMOOTH_/s"].create_dataset("FORMAT_", data=[1] * 30000, dtype="i4", maxshape=(None,))
+        self.assertEqual(30000, len(self.findings("--job", "smooth", of="not-an-enumerator")))
+
     def test_of_a_description(self):
         self.assert_finds_in('[SCALING_CURVE_.c]\nTYPE_ = "HEAVISIDE"\n', "not-an-enumerator", (2, 9))
         self.assert_finds_in('[SCALING_CURVE_.c]\nTYPE_ = { type = "integer", values = [1] }\n',
@@ -361,6 +368,15 @@ class UnresolvedReferences(RulesTest):
         self.assertEqual(['the nearest is outlet; there are inlet, outlet; write DRESP_ = "outlet"',
                           "there is no FILTER_ at all", "there is no FILTER_ at all"],
                          self.remedies("job.toml", of="unresolved-reference"))
+
+    def test_so_many_that_looking_for_the_nearest_would_take_long_are_told_without_it(self):
+        self.write("job.toml", "".join(f"[DRESP_.response_{number}]\n" for number in range(1000)) +
+                   f"[OPERATOR_.o]\nDRESP_ = {[f'answer_{number}' for number in range(600)]}\n")
+        remedies = self.remedies("job.toml", of="unresolved-reference")
+        self.assertEqual(600, len(remedies))
+        self.assertTrue(remedies[0].startswith("the nearest is response_0; there are response_0, "), remedies[0])
+        self.assertTrue(remedies[-1].startswith("there are response_0, "), remedies[-1])
+        self.assertTrue(remedies[-1].endswith(" and 900 more"), remedies[-1])
 
     def test_are_not_told_of_a_command_that_was_refused(self):
         self.assert_finds_in('[MONITOR_.m]\nDRESP_ = "x"\n[DRESP_]\nx = 3\n', "unresolved-reference")
@@ -878,15 +894,20 @@ class Page(CheckTest):
 
     def test_each_example_fails_and_passes_as_it_says(self):
         self.write("ids.toml", 'element_groups = ["package_space"]\n')
+        tried = []
         sections = re.split(r"^## ", self.PAGE.read_text(encoding="utf-8"), flags=re.MULTILINE)[1:]
         for section in sections:
             rule = section.split("\n")[0]
             for word, example in re.findall(r"(Fails|Passes):\n\n```toml\n(.+?)\n```", section, re.DOTALL):
+                tried.append((rule, word))
                 with self.subTest(rule, example=word):
                     tomllib.loads(example)
                     self.write("job.toml", example)
                     found = [finding.rule for finding in self.findings("job.toml", "--model-ids", "ids.toml")]
                     self.assertEqual(1 if word == "Fails" else 0, found.count(rule), found)
+        in_files_alone = ("library", "foreign-object")
+        self.assertEqual([(rule, word) for rule in ALL_RULES if rule not in in_files_alone for word in ("Fails", "Passes")],
+                         tried)
 
 
 if __name__ == "__main__":

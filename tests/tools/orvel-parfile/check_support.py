@@ -5,6 +5,12 @@ import typing
 
 from support import ToolTest, doubles, integers, minimal_job, references, texts, write_parameter_file
 
+ALL_RULES = [
+    "library", "impossible-name", "foreign-object", "unknown-kind", "unknown-key", "missing-key", "wrong-type",
+    "wrong-count", "not-an-enumerator", "command-count", "unresolved-reference", "wrong-target",
+    "unreachable-command", "reference-cycle", "list-lengths", "response-or-operator", "limits", "no-basis",
+    "unknown-model-id", "unused-group", "unused-model-group"]
+
 # What errors and warnings there are, by rule; notes do not count for the exit code.
 WARNINGS = {"foreign-object", "unreachable-command", "unused-group"}
 NOTES = {"unused-model-group"}

@@ -86,6 +86,11 @@ std::string Placeholder(const schema::Field& field)
   }
 }
 
+std::string MeaningOfPlaceholder(const schema::Field& field)
+{
+  return ", where " + Placeholder(field) + " is " + ExpectedText(field);
+}
+
 std::string TomlValue(const schema::Field& field, const std::vector<std::string>& values)
 {
   std::string text;
@@ -238,9 +243,9 @@ std::string Remedies::Set(const JobCommand& command, const schema::Field& field,
   if (values.empty() || values.size() > kMostWords)
   {
     const std::string placeholder = Placeholder(field);
-    const std::string set = m_is_description ? "write " + key + " = " + placeholder
-                                             : Command("set", {command.kind, command.id, key, placeholder});
-    return set + ", where " + placeholder + " is " + ExpectedText(field);
+    return (m_is_description ? "write " + key + " = " + placeholder
+                             : Command("set", {command.kind, command.id, key, placeholder})) +
+           MeaningOfPlaceholder(field);
   }
   if (m_is_description)
   {
@@ -266,6 +271,16 @@ std::string Remedies::Replace(const JobCommand& command, const JobKey& key, std:
     values.push_back(each == place ? value : target != nullptr ? target->id : ValueText(key.items[each].value, &field));
   }
   return Set(command, field, values);
+}
+
+std::string Remedies::ReplaceByAny(const JobCommand& command, const JobKey& key, std::size_t place) const
+{
+  const schema::Field& field = *FieldOf(command, key.name);
+  if (key.items.size() == 1 || key.items.size() > kMostWords)
+  {
+    return Set(command, field, {});
+  }
+  return Replace(command, key, place, Placeholder(field)) + MeaningOfPlaceholder(field);
 }
 
 std::string Remedies::Remove(const JobCommand& command, const std::string& key) const

@@ -23,6 +23,9 @@ public:
   /// Gives a key its values with another one at a place.
   std::string Replace(const JobCommand& command, const JobKey& key, std::size_t place, const std::string& value) const;
 
+  /// Gives a key its values with a word at a place that stands for what may be there, and tells what that is.
+  std::string ReplaceByAny(const JobCommand& command, const JobKey& key, std::size_t place) const;
+
   /// Takes a key away.
   std::string Remove(const JobCommand& command, const std::string& key) const;
 

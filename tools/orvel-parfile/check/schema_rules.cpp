@@ -106,12 +106,9 @@ void CheckEnumerators(const CheckSubject& subject, const JobCommand& command, co
                   [number](const schema::Enumerator& enumerator) { return enumerator.value == number; });
     if (!is_one)
     {
-      const bool is_alone = key.items.size() == 1;
-      const std::string text = "must be an enumerator, not " + std::to_string(number);
-      findings.push_back(About(rules::not_an_enumerator, command, key, key.items[place], text,
-                               is_alone ? subject.remedies.Set(command, field, {})
-                                        : subject.remedies.Replace(command, key, place, "ENUMERATOR") +
-                                            ", where ENUMERATOR is " + ExpectedText(field)));
+      findings.push_back(About(rules::not_an_enumerator, command, key, key.items[place],
+                               "must be an enumerator, not " + std::to_string(number),
+                               subject.remedies.ReplaceByAny(command, key, place)));
     }
   }
 }
