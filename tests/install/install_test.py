@@ -33,10 +33,10 @@ class InstalledFiles(FolderTest):
             "orvel-baseobjects", "orvel-cmdengine", "orvel-dbfactory", "orvel-ids", "orvel-utilities", "orvelcommands")]
         self.assertEqual(files, sorted(packages + links + for_pkg_config))
 
-    def test_of_the_component_tools_is_the_tool(self):
-        files = self.component("tools")
-        self.assertIn("bin/orvel-parfile", files)
-        self.assertEqual([file for file in files if not file.startswith(("bin/", "share/"))], [])
+    def test_of_the_component_tools_is_the_tool_with_its_manual_and_its_completions(self):
+        self.assertEqual(self.component("tools"), [
+            "bin/orvel-parfile", "share/bash-completion/completions/orvel-parfile", "share/man/man1/orvel-parfile.N",
+            "share/zsh/site-functions/_orvel-parfile"])
 
     def test_hold_the_public_headers_and_none_of_ours(self):
         include = PREFIX / "include"
@@ -94,10 +94,19 @@ class FindPackage(FolderTest):
         self.assertEqual(code, 0, text)
         self.assertIn("gives OrvelCommands::OrvelCommands", text)
 
-    def test_refuses_another_major_version(self):
-        code, text = self.find("OrvelCommands 99 CONFIG REQUIRED")
-        self.assertNotEqual(code, 0)
-        self.assertIn('compatible with requested version "99"', text)
+    def test_refuses_another_major_version_and_before_the_first_another_minor_one(self):
+        for package in ("OrvelCommands", "OrvelPlatform"):
+            for version in ("99", "0.0", "0.2"):
+                with self.subTest(package, version=version):
+                    code, text = self.find(package, version, "CONFIG REQUIRED")
+                    self.assertNotEqual(code, 0)
+                    self.assertIn(f'compatible with requested version "{version}"', text)
+
+    def test_takes_the_minor_version_that_is_asked_for(self):
+        for package in ("OrvelCommands", "OrvelPlatform"):
+            with self.subTest(package):
+                code, text = self.find(package, "0.1", "CONFIG REQUIRED")
+                self.assertEqual(code, 0, text)
 
 
 if __name__ == "__main__":

@@ -37,6 +37,12 @@ class DebianPackages(FolderTest):
             with self.subTest(package=package):
                 self.assertIn(f"liborvelcommands0 (= {self.version})", field(self.packages[package], "Depends"))
 
+    def test_make_whoever_links_a_library_need_the_same_version(self):
+        run("dpkg-deb", "--control", self.packages["liborvelcommands0"], self.folder / "control")
+        self.assertEqual((self.folder / "control" / "shlibs").read_text().splitlines(), [
+            f"libOrvel{module} 0 liborvelcommands0 (= {self.version})"
+            for module in ("Utilities", "BaseObjects", "CmdEngine", "Ids", "DbFactory", "Commands")])
+
     def test_need_the_libraries_that_their_programs_load(self):
         self.assertEqual(sorted(self.names_needed("liborvelcommands0")),
                          ["libc6", "libfmt9", "libgcc-s1", "libhdf5-103-1", "libhdf5-cpp-103-1", "libspdlog1.10-fmt9",

@@ -71,10 +71,14 @@ class HeldFiles(LockTest):
             self.assertEqual([0.7], list(file["PARFILE/DV_/porosity/INITIAL_"]))
         self.assertEqual(GOOD, self.tool(*IMPORT).code)
 
+    def lock(self, folder):
+        """As an orvel-parfile does that changes a file of the folder."""
+        descriptor = os.open(folder, os.O_RDONLY)
+        fcntl.flock(descriptor, fcntl.LOCK_EX)
+        return descriptor
+
     def test_that_are_being_replaced_are_refused(self):
-        folder = os.open(self.folder, os.O_RDONLY)
-        self.addCleanup(os.close, folder)
-        fcntl.flock(folder, fcntl.LOCK_EX)
+        self.addCleanup(os.close, self.lock(self.folder))
         for arguments in CHANGE:
             with self.subTest(arguments):
                 self.assert_refused(arguments, f"{self.folder}: another orvel-parfile is changing a parameter file of "
@@ -83,25 +87,74 @@ class HeldFiles(LockTest):
             with self.subTest(arguments):
                 self.assertEqual(GOOD, self.tool(*arguments).code)
 
+    def test_behind_a_link_are_being_replaced_where_they_are(self):
+        store = self.folder / "store"
+        store.mkdir()
+        self.file.rename(store / "job.hdf5")
+        self.file.symlink_to("store/job.hdf5")
+        held = self.lock(store)
+        for arguments in CHANGE:
+            with self.subTest(arguments):
+                self.assert_refused(arguments, f"{store}: another orvel-parfile is changing a parameter file of this "
+                                               "folder; try again when it has ended\n")
+        os.close(held)
+        self.addCleanup(os.close, self.lock(self.folder))
+        for arguments in CHANGE:
+            with self.subTest(arguments, lock="of the link"):
+                self.assertEqual(GOOD, self.tool(*arguments).code)
+
 
 class SetsAtOnce(LockTest):
+    KEYS = ("VISCOSITY_", "RESIDUAL_")
+
+    def start(self, key, value):
+        run = subprocess.Popen([os.environ["ORVEL_PARFILE"], "set", "PRE_PARAM_", "open_box", key, str(value)],
+                               cwd=self.folder, stdout=subprocess.DEVNULL, stderr=subprocess.PIPE)
+        self.addCleanup(run.stderr.close)
+        return run
+
+    def values(self):
+        with h5py.File(self.file, "r") as file:
+            return [file[f"PARFILE/PRE_PARAM_/open_box/{key}"][0] for key in self.KEYS]
+
     def test_lose_nothing_without_a_word(self):
-        keys = ("VISCOSITY_", "RESIDUAL_")
-        for turn in range(5):
-            runs = [subprocess.Popen(
-                [os.environ["ORVEL_PARFILE"], "set", "PRE_PARAM_", "open_box", key, str(turn + 10)], cwd=self.folder,
-                stdout=subprocess.DEVNULL, stderr=subprocess.PIPE) for key in keys]
-            for key, run in zip(keys, runs):
-                err = run.communicate()[1].decode()
-                with h5py.File(self.file, "r") as file:
-                    value = file[f"PARFILE/PRE_PARAM_/open_box/{key}"][0]
+        expected = self.values()
+        for turn in range(10, 20):
+            runs = [self.start(key, turn) for key in self.KEYS]
+            texts = [run.communicate()[1].decode() for run in runs]
+            self.assertIn(GOOD, [run.returncode for run in runs])
+            for place, (run, text) in enumerate(zip(runs, texts)):
                 if run.returncode == GOOD:
-                    self.assertEqual(turn + 10, value)
+                    expected[place] = turn
                 else:
                     self.assertEqual(UNUSABLE, run.returncode)
-                    self.assertIn("another orvel-parfile is changing", err)
-                    self.assertNotEqual(turn + 10, value)
+                    self.assertIn("another orvel-parfile is changing", text)
+            self.assertEqual(expected, self.values())
         self.assertEqual([FILE_NAME], names_in(self.folder))
+
+    def start_and_stop(self, key, value):
+        """A run that is stopped while it has a folder for its copy."""
+        while True:
+            run = self.start(key, value)
+            while run.poll() is None and names_in(self.folder) == [FILE_NAME]:
+                pass
+            run.send_signal(signal.SIGSTOP)
+            if run.returncode is None:
+                _, status = os.waitpid(run.pid, os.WUNTRACED)
+                if os.WIFSTOPPED(status) and len(names_in(self.folder)) == 2:
+                    return run
+                run.send_signal(signal.SIGCONT)
+                run.wait()
+
+    def test_are_refused_until_the_first_has_put_its_file_in_place(self):
+        first = self.start_and_stop(self.KEYS[0], 10)
+        second = self.start(self.KEYS[1], 20)
+        says = second.communicate()[1].decode()
+        first.send_signal(signal.SIGCONT)
+        self.assertEqual(GOOD, first.wait(120))
+        self.assertEqual((UNUSABLE, f"{self.folder}: another orvel-parfile is changing a parameter file of this folder; "
+                                    "try again when it has ended\n"), (second.returncode, says))
+        self.assertEqual([10, 1e-4], self.values())
 
 
 class NoFiles(LockTest):
@@ -112,16 +165,12 @@ class NoFiles(LockTest):
         def device():
             self.file.symlink_to("/dev/zero")
 
-        for make, what in ((pipe, "this is no file"), (device, "this is no file"), (self.file.mkdir, "")):
+        for make in (pipe, device, self.file.mkdir):
             with self.subTest(make.__name__):
                 self.remove()
                 make()
                 for arguments in READ + CHANGE:
-                    result = self.tool(*arguments)
-                    self.assertEqual((UNUSABLE, ""), (result.code, result.out), arguments)
-                    self.assertIn(what, result.err)
-                    self.assertNotEqual("", result.err)
-                    self.assertEqual([FILE_NAME], names_in(self.folder))
+                    self.assert_refused(arguments, f"{self.file}: this is no file\n")
 
     def remove(self):
         if self.file.is_dir():
@@ -173,8 +222,9 @@ class ReadOnlyPlaces(LockTest):
 
 class FullDisks(LockTest):
     def limit(self, size):
+        """The signal that tells of the limit would end the tool, so Python, which ignores it, must not hand that down."""
         def limit():
-            signal.signal(signal.SIGXFSZ, signal.SIG_IGN)
+            signal.signal(signal.SIGXFSZ, signal.SIG_DFL)
             resource.setrlimit(resource.RLIMIT_FSIZE, (size, size))
         return limit
 

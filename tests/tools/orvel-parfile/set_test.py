@@ -278,8 +278,9 @@ class Refusals(SetTest):
         self.assert_refused(("DV_", "porosity", "INITIAL_", "1", "2"), "DV_ porosity: INITIAL_ holds one value, not 2")
 
     def test_too_few_words(self):
-        for words in ((), ("DV_",), ("DV_", "porosity"), ("DV_", "porosity", "INITIAL_"), (".", "DV_", "porosity", "x")):
-            self.assert_refused(words, "")
+        self.assert_refused((), "words is required")
+        for words in (("DV_",), ("DV_", "porosity"), ("DV_", "porosity", "INITIAL_"), (".", "DV_", "porosity", "x")):
+            self.assert_refused(words, "set needs a kind, an id, a key and at least one value")
 
     def test_files_that_are_none(self):
         (self.folder / "none").mkdir()
@@ -288,7 +289,9 @@ class Refusals(SetTest):
         self.assert_refused(("job.toml", "DV_", "porosity", "INITIAL_", "1"),
                             "job.toml: a parameter file must have the name")
         self.write(f"none/{FILE_NAME}", b"no HDF5")
-        self.assert_refused(("none", "DV_", "porosity", "INITIAL_", "1"), "")
+        self.assert_refused(("none", "DV_", "porosity", "INITIAL_", "1"),
+                            f"none/{FILE_NAME}: Failed to create the HDF5 optimization database.\n"
+                            "  HDF5 reported the following error:\n  H5Fopen failed\n")
 
 
 class TheFile(SetTest):

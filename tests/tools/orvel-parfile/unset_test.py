@@ -157,10 +157,12 @@ class Everything(UnsetTest):
 
 class WrongUse(UnsetTest):
     def test_no_words_empty_words_and_too_many(self):
-        for words in ((), (".",), ("",), ("DV_", ""), ("DV_", "porosity", "TYPE_", "x"),
-                      ("DV_", "porosity", "--force", "--attributes")):
+        for words in ((), (".",), ("",), ("DV_", ""), ("DV_", "porosity", "TYPE_", "x")):
             with self.subTest(words):
-                self.assert_refused(words, "")
+                self.assert_refused(words, "unset needs a kind, or a kind and an id, or a kind, an id and a key\n")
+
+    def test_options_that_exclude_each_other(self):
+        self.assert_refused(("DV_", "porosity", "--force", "--attributes"), "--attributes excludes --force\n")
 
     def test_a_kind_of_the_schema_that_the_file_lacks(self):
         self.assert_refused(("MONITOR_", "x"), "the file has no kind MONITOR_; ")
