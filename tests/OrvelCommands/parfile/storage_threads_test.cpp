@@ -8,36 +8,58 @@
 
 #include <cstddef>
 #include <functional>
+#include <string>
 #include <thread>
 
 namespace
 {
 
-// All that a SMOOTH_ always has.
-void WriteSmoothJob(int commands)
+// What the command of an index of a file holds: no two hold the same.
+struct Content
+{
+  Content(int file, int index) : number(1000 * file + index), id("surface_" + std::to_string(number)) {}
+
+  int number;
+  std::string id;  // and each text
+};
+
+// A file of commands with all that a SMOOTH_ always has.
+void WriteSmoothJob(int file, int commands)
 {
   plain_hdf5::MakeEmptyFile();
   const ParfileHdf5Storage storage(true);
   for (int i = 0; i < commands; ++i)
   {
-    const std::string id = "surface_" + std::to_string(i);
-    storage.AddCommand("SMOOTH_", id);
+    const Content content(file, i);
+    storage.AddCommand("SMOOTH_", content.id);
     for (const orvel::schema::Field& field : orvel::schema::FindCommand("SMOOTH_")->fields)
     {
       const std::string key(field.key);
-      storage.AddValue("SMOOTH_", id, key, field.type == vtmDouble ? vtmDouble : vtmUnknown, 0.5);
-      storage.AddValue("SMOOTH_", id, key, field.type == vtmString ? vtmString : vtmUnknown, id);
+      storage.AddValue("SMOOTH_", content.id, key, field.type == vtmDouble ? vtmDouble : vtmUnknown,
+                       content.number / 8.0);
+      storage.AddValue("SMOOTH_", content.id, key, field.type == vtmString ? vtmString : vtmUnknown, content.id);
       const bool is_number = field.type == vtmEnum || field.type == vtmInteger;
-      storage.AddValue("SMOOTH_", id, key, is_number ? vtmInteger : vtmUnknown, 83);
+      storage.AddValue("SMOOTH_", content.id, key, is_number ? vtmInteger : vtmUnknown, content.number);
     }
   }
 }
 
-std::size_t Load(ParfileHdf5Storage& storage)
+void LoadOften(ParfileHdf5Storage& storage, int file, int commands)
 {
-  Smooth_Parfile parfile(storage);
-  parfile.Load();
-  return parfile.GetSMOOTH_().size();
+  for (int time = 0; time < 10; ++time)
+  {
+    Smooth_Parfile parfile(storage);
+    parfile.Load();
+    ASSERT_EQ(parfile.GetSMOOTH_().size(), static_cast<std::size_t>(commands));
+    for (int i = 0; i < commands; ++i)
+    {
+      const Content content(file, i);
+      const SMOOTH_& smooth = parfile.GetSMOOTH_(content.id);
+      EXPECT_EQ(smooth.GetRESULT_FILE_(), content.id);
+      EXPECT_EQ(smooth.GetSMOOTH_CYCLES_(), content.number);
+      EXPECT_EQ(smooth.GetISO_VALUE_(), content.number / 8.0);
+    }
+  }
 }
 
 }  // namespace
@@ -54,24 +76,14 @@ TEST(Threads, MayLoadFromAStorageOfTheirOwnEach)
   H5::Exception::dontPrint();
 
   const TemporaryFolder first_folder;
-  WriteSmoothJob(3);
+  WriteSmoothJob(1, 3);
   ParfileHdf5Storage first(false, true);
   const TemporaryFolder second_folder;
-  WriteSmoothJob(5);
+  WriteSmoothJob(2, 5);
   ParfileHdf5Storage second(false, true);
 
-  std::size_t found_in_first = 0;
-  std::size_t found_in_second = 0;
-  const auto load_often = [](ParfileHdf5Storage& storage, std::size_t& found) {
-    for (int i = 0; i < 10; ++i)
-    {
-      found = Load(storage);
-    }
-  };
-  std::thread first_thread(load_often, std::ref(first), std::ref(found_in_first));
-  std::thread second_thread(load_often, std::ref(second), std::ref(found_in_second));
+  std::thread first_thread(LoadOften, std::ref(first), 1, 3);
+  std::thread second_thread(LoadOften, std::ref(second), 2, 5);
   first_thread.join();
   second_thread.join();
-  EXPECT_EQ(found_in_first, 3U);
-  EXPECT_EQ(found_in_second, 5U);
 }
