@@ -251,8 +251,9 @@ private:
                                         Limit::Full);
   }
 
-  // In the ways that an end may need: with fresh memory filled; past the file's other faults, which the library may
-  // meet later; and, for a crash, watched, as it is chance whether a read beside its memory kills a program.
+  // In the ways that an end may need: with fresh memory filled; each key at once; past the file's other faults, which
+  // the library may meet later; and, for a crash, watched, as it is chance whether a read beside its memory kills a
+  // program.
   Outcome RunReference(End expected, const std::vector<std::string>& arguments, Limit limit) const
   {
     Outcome outcome;
@@ -267,6 +268,7 @@ private:
     const auto attempt_with = [&](const std::string& option) { attempt(", " + option, m_options.reference, {option}); };
     attempt("", m_options.reference, {});
     attempt_with("--fill");
+    attempt_with("--whole");
     if (expected == End::Hang)
     {
       attempt_with("--until-hang");

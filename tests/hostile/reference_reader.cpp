@@ -2,12 +2,13 @@
 // does: element by element, each of the first as every type. None of our code is in it. It decides whether a file on
 // which the library dies, hangs or runs out of memory is one on which HDF5 itself does.
 //
-//   reference_reader [--fill] [--impatient] [--open | --until-crash | --until-hang] <folder>...
+//   reference_reader [--fill] [--impatient] [--whole | --open | --until-crash | --until-hang] <folder>...
 //
 // --fill fills fresh memory, so that a use of it does not go by unseen; --impatient leaves out keys of too many values,
-// as a run over many files does. The others are for a file that has both faults, of which a program meets the one that
-// its order brings first. --open opens keys without reading them. With --until-crash and --until-hang each group, key
-// and read has a process of its own, and only the fault that is asked for ends the whole.
+// as a run over many files does; --whole reads each key at once, as a program that shows a file does, and not element
+// by element. The others are for a file that has both faults, of which a program meets the one that its order brings
+// first. --open opens keys without reading them. With --until-crash and --until-hang each group, key and read has a
+// process of its own, and only the fault that is asked for ends the whole.
 //
 // Want of memory must not look like a crash.
 #include "hostile/limits.h"
@@ -49,6 +50,7 @@ struct Manner
   const hid_t* end;  // of the types to read as
   hid_t transfer;
   bool impatient;
+  bool whole;
   bool only_open;
   Until until;
 };
@@ -190,6 +192,21 @@ void ReadElement(hid_t group, const char* name, hid_t type, hid_t transfer, hsiz
   H5Dclose(dataset);
 }
 
+void ReadWhole(hid_t group, const char* name, hid_t type, hid_t transfer, size_t count)
+{
+  const hid_t dataset = H5Dopen2(group, name, H5P_DEFAULT);
+  const hid_t space = H5Dget_space(dataset);
+  void* elements = calloc(count, sizeof(hvl_t));
+  if (elements != nullptr && H5Dread(dataset, type, H5S_ALL, H5S_ALL, transfer, elements) >= 0 &&
+      H5Tget_class(type) == H5T_VLEN)
+  {
+    H5Dvlen_reclaim(type, space, H5P_DEFAULT, elements);
+  }
+  free(elements);
+  H5Sclose(space);
+  H5Dclose(dataset);
+}
+
 struct Contents
 {
   hssize_t count;  // 0 where no storage reads elements
@@ -213,9 +230,26 @@ Contents ContentsOf(hid_t group, const char* name)
   return {count, type_class};
 }
 
+void ReadWholeDataset(hid_t group, const char* name, Manner manner)
+{
+  const Contents contents = ContentsOf(group, name);
+  for (const hid_t* type = manner.begin; type != manner.end; ++type)
+  {
+    if (contents.count > 0 && contents.count <= kPatience && H5Tget_class(*type) == contents.type_class)
+    {
+      ReadWhole(group, name, *type, manner.transfer, static_cast<size_t>(contents.count));
+    }
+  }
+}
+
 // The first elements as every type, or, in the second pass, all elements as the types of the dataset's class.
 void ReadDataset(hid_t group, const char* name, Manner manner, bool all)
 {
+  if (manner.whole)
+  {
+    ReadWholeDataset(group, name, manner);
+    return;
+  }
   const Contents contents = ContentsOf(group, name);
   const bool is_patient = !manner.impatient || contents.count <= kPatience;
   const hssize_t wanted = manner.only_open ? 0 : !all ? kReadAsEveryType : is_patient ? contents.count : 0;
@@ -311,7 +345,7 @@ void ReadFile(Manner manner)
 
 int main(int argc, char** argv)
 {
-  Manner manner{nullptr, nullptr, H5Pcreate(H5P_DATASET_XFER), false, false, Until::TheFirstFault};
+  Manner manner{nullptr, nullptr, H5Pcreate(H5P_DATASET_XFER), false, false, false, Until::TheFirstFault};
   H5Pset_buffer(manner.transfer, kConversionBufferBytes, nullptr, nullptr);
   int next = 1;
   for (; next < argc && strncmp(argv[next], "--", 2) == 0; ++next)
@@ -321,6 +355,7 @@ int main(int argc, char** argv)
       FillFreshMemory();
     }
     manner.impatient = manner.impatient || strcmp(argv[next], "--impatient") == 0;
+    manner.whole = manner.whole || strcmp(argv[next], "--whole") == 0;
     manner.only_open = manner.only_open || strcmp(argv[next], "--open") == 0;
     if (strcmp(argv[next], "--until-crash") == 0)
     {
@@ -332,7 +367,8 @@ int main(int argc, char** argv)
     }
   }
   H5Eset_auto2(H5E_DEFAULT, nullptr, nullptr);
-  const hid_t types[] = {H5T_NATIVE_INT,
+  // A program that shows files takes integers of every size.
+  const hid_t types[] = {manner.whole ? H5T_NATIVE_LLONG : H5T_NATIVE_INT,
                          H5T_NATIVE_DOUBLE,
                          H5Tvlen_create(H5T_C_S1),
                          H5Tvlen_create(H5T_NATIVE_INT),
