@@ -74,6 +74,21 @@ void ReadAt(const std::string& path, hsize_t index, hid_t type, void* value)
   Checked(H5Dread(dataset, type, memory, space, H5P_DEFAULT, value), "read " + path);
 }
 
+// Overwrites the last of the structures in the file that begin with a signature.
+void OverwriteLast(const std::string& signature)
+{
+  std::ifstream in(kFile, std::ios::binary);
+  std::string bytes{std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+  in.close();
+  const std::size_t place = bytes.rfind(signature);
+  if (place == std::string::npos)
+  {
+    throw std::runtime_error("no " + signature + " in the file");
+  }
+  bytes.replace(place, signature.size(), signature.size(), 'X');
+  std::ofstream(kFile, std::ios::binary) << bytes;
+}
+
 std::int64_t NumOpen(unsigned kinds)
 {
   return Checked(H5Fget_obj_count(static_cast<hid_t>(H5F_OBJ_ALL), kinds), "count what is open");
@@ -224,6 +239,17 @@ void MakeFileWithParfile()
   MakeGroup("/PARFILE");
 }
 
+void MakeFileWithBrokenRoot()
+{
+  {
+    const Id access = NewList(H5P_FILE_ACCESS);
+    Checked(H5Pset_libver_bounds(access, H5F_LIBVER_LATEST, H5F_LIBVER_LATEST), "choose a format");
+    const Id file{H5Fcreate(kFile, H5F_ACC_TRUNC, H5P_DEFAULT, access), H5Fclose, "make the file"};
+  }
+  OverwriteLast("OHDR");
+  OpenFile(H5F_ACC_RDONLY);  // the file itself is sound
+}
+
 void MakeGroup(const std::string& path)
 {
   const Id file = OpenFile(H5F_ACC_RDWR);
@@ -239,6 +265,14 @@ std::vector<std::string> Objects()
 std::uint64_t NumAttributes()
 {
   return WalkOverFile().attributes;
+}
+
+std::uint64_t AddressOf(const std::string& path)
+{
+  const Id file = OpenFile(H5F_ACC_RDONLY);
+  H5O_info_t info;
+  Checked(H5Oget_info_by_name(file, path.c_str(), &info, H5P_DEFAULT), "look at " + path);
+  return info.addr;
 }
 
 unsigned SuperblockVersion()
@@ -439,16 +473,7 @@ void Remove(const std::string& path)
 
 void BreakLastGroup()
 {
-  std::ifstream in(kFile, std::ios::binary);
-  std::string bytes{std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-  in.close();
-  const std::size_t node = bytes.rfind("SNOD");
-  if (node == std::string::npos)
-  {
-    throw std::runtime_error("no symbol table node in the file");
-  }
-  bytes.replace(node, 4, "XXXX");
-  std::ofstream(kFile, std::ios::binary) << bytes;
+  OverwriteLast("SNOD");
 }
 
 }  // namespace plain_hdf5

@@ -81,6 +81,8 @@ ChunkCache ChunkCacheOfTheOpenFile();
 /// @{
 void MakeEmptyFile();
 void MakeFileWithParfile();
+/// One of the newest format, which can be opened, but nothing in it.
+void MakeFileWithBrokenRoot();
 void MakeGroup(const std::string& path);
 /// @}
 
@@ -94,6 +96,9 @@ std::vector<std::string> Objects();
 std::uint64_t NumAttributes();
 
 unsigned SuperblockVersion();
+
+/// Where the object that a path leads to stands in the file.
+std::uint64_t AddressOf(const std::string& path);
 
 /// What a key looks like, apart from its type and its values.
 struct Shape

@@ -16,6 +16,7 @@ static_assert(std::has_virtual_destructor_v<KLV_Exception>);
 static_assert(std::is_base_of_v<KLV_Exception, KLV_Failure>);
 static_assert(!std::is_abstract_v<KLV_Failure>);
 static_assert(std::is_copy_constructible_v<KLV_Failure>);
+static_assert(!std::is_copy_assignable_v<KLV_Failure>, "two failures would own one cause");
 static_assert(sizeof(KLV_Failure) == sizeof(KLV_Exception), "KLV_Failure has no fields of its own");
 
 namespace

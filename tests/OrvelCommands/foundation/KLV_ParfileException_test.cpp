@@ -12,6 +12,7 @@ using testing::Property;
 
 static_assert(std::is_base_of_v<KLV_Exception, KLV_ParfileException>);
 static_assert(std::is_copy_constructible_v<KLV_ParfileException>);
+static_assert(!std::is_copy_assignable_v<KLV_ParfileException>);
 
 namespace
 {

@@ -12,6 +12,7 @@
 using testing::IsEmpty;
 
 static_assert(std::is_constructible_v<Parfile, const OrvelParfileStorage&>);
+static_assert(!std::is_convertible_v<const OrvelParfileStorage&, Parfile>);
 static_assert(std::is_copy_constructible_v<Parfile>);
 static_assert(std::is_move_constructible_v<Parfile>);
 static_assert(!std::is_copy_assignable_v<Parfile>);
@@ -22,6 +23,7 @@ static_assert(sizeof(Parfile) == 2 * sizeof(void*), "it holds the binding to the
 
 static_assert(std::is_base_of_v<Parfile, Gyre_Parfile>);
 static_assert(std::is_constructible_v<Gyre_Parfile, OrvelParfileStorage&>);
+static_assert(!std::is_convertible_v<OrvelParfileStorage&, Gyre_Parfile>);
 static_assert(std::is_move_constructible_v<Gyre_Parfile>);
 static_assert(!std::is_copy_constructible_v<Gyre_Parfile>);
 static_assert(!std::is_copy_assignable_v<Gyre_Parfile>);

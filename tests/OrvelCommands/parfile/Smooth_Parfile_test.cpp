@@ -12,6 +12,7 @@ using testing::IsEmpty;
 
 static_assert(std::is_base_of_v<Parfile, Smooth_Parfile>);
 static_assert(std::is_constructible_v<Smooth_Parfile, OrvelParfileStorage&>);
+static_assert(!std::is_convertible_v<OrvelParfileStorage&, Smooth_Parfile>);
 static_assert(std::is_move_constructible_v<Smooth_Parfile>);
 static_assert(!std::is_copy_constructible_v<Smooth_Parfile>);
 static_assert(!std::is_copy_assignable_v<Smooth_Parfile>);

@@ -18,6 +18,7 @@ using Storage = OrvelParfileStorageCmdContainer;
 static_assert(std::is_base_of_v<OrvelParfileStorage, Storage>);
 static_assert(std::has_virtual_destructor_v<Storage>);
 static_assert(std::is_constructible_v<Storage, const OrvelCmdContainer&>);
+static_assert(!std::is_convertible_v<const OrvelCmdContainer&, Storage>);
 static_assert(std::is_copy_constructible_v<Storage> && std::is_copy_assignable_v<Storage>);
 static_assert(!std::is_default_constructible_v<Storage>);
 

@@ -293,6 +293,17 @@ TEST_F(ParfileHdf5StorageForeignData, GivesTheNameOfATargetAndNotOfALinkToIt)
   EXPECT_EQ(ReferenceOf(ReadOnlyStorage(), "FILTER_", 1), "axis");
 }
 
+// HDF5 tells the length of a soft link where it tells the address of a hard one.
+TEST_F(ParfileHdf5StorageForeignData, DoesNotTakeTheLengthOfALinkForTheAddressOfATarget)
+{
+  plain_hdf5::MakeGroup("/PARFILE/FILTER_");
+  plain_hdf5::MakeGroup("/PARFILE/FILTER_/fine");
+  plain_hdf5::MakeReferences("/PARFILE/DV_/porosity/FILTER_", {"/PARFILE/FILTER_/fine"});
+  const std::uint64_t address = plain_hdf5::AddressOf("/PARFILE/FILTER_/fine");
+  plain_hdf5::MakeSoftLink("/PARFILE/FILTER_/a", std::string(address - 1, 'x'));  // the length counts the final NUL
+  EXPECT_EQ(ReferenceOf(ReadOnlyStorage(), "FILTER_", 1), "fine");
+}
+
 TEST_F(ParfileHdf5StorageForeignData, NamesTheTargetInTheFileThatAKeyOfAnotherFileRefersInto)
 {
   MakeTwoFilesWithOneAddress();

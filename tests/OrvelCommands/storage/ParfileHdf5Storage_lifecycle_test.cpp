@@ -8,9 +8,12 @@
 #include <fstream>
 #include <memory>
 #include <new>
+#include <type_traits>
 
 using testing::ElementsAre;
 using testing::IsEmpty;
+
+static_assert(!std::is_convertible_v<bool, ParfileHdf5Storage>, "true would open a file");
 
 namespace
 {
@@ -73,6 +76,15 @@ TEST_F(ParfileHdf5StorageLifecycle, FailsOnAFileThatIsCutOff)
   std::filesystem::resize_file("parfile_storage.hdf5", 700);
   EXPECT_THAT(FailureOfOpening(false, false), IsFileFailure());
   EXPECT_THAT(FailureOfOpening(false, true), IsFileFailure());
+}
+
+// Files of the newest format open although their root group cannot be read.
+TEST_F(ParfileHdf5StorageLifecycle, ClosesAFileWhoseRootCannotBeRead)
+{
+  plain_hdf5::MakeFileWithBrokenRoot();
+  EXPECT_THAT(FailureOfOpening(false, false), IsFileFailure());
+  EXPECT_THAT(FailureOfOpening(false, true), IsFileFailure());
+  EXPECT_EQ(plain_hdf5::NumOpenObjects(), 0);
 }
 
 TEST_F(ParfileHdf5StorageLifecycle, FailsOnAFolderOfThatName)

@@ -519,3 +519,57 @@ TEST_F(ParfileHdf5StorageRead, FailsUnderACommandThatReadsAMissingKeyWithoutAski
   EXPECT_EQ(model.GetFILE_(), "duct.inp");
   EXPECT_FALSE(model.HasSOLVER_());
 }
+
+namespace
+{
+
+std::size_t conversion_buffer = 0;
+
+// Notes how large the buffer is in which HDF5 converts.
+herr_t NoteBuffer(hid_t, hid_t, H5T_cdata_t* data, std::size_t, std::size_t, std::size_t, void*, void*, hid_t transfer)
+{
+  if (data->command == H5T_CONV_CONV)
+  {
+    conversion_buffer = H5Pget_buffer(transfer, nullptr, nullptr);
+  }
+  return 0;
+}
+
+// Stands in for one conversion of HDF5's while it lives.
+class BufferProbe
+{
+public:
+  BufferProbe(hid_t from, hid_t to) : m_from(from), m_to(to)
+  {
+    H5Tregister(H5T_PERS_HARD, "probe", from, to, NoteBuffer);
+    conversion_buffer = 0;
+  }
+  BufferProbe(const BufferProbe&) = delete;
+  BufferProbe& operator=(const BufferProbe&) = delete;
+  ~BufferProbe() { H5Tunregister(H5T_PERS_HARD, "probe", m_from, m_to, NoteBuffer); }
+
+private:
+  hid_t m_from;
+  hid_t m_to;
+};
+
+}  // namespace
+
+// HDF5 zeroes this buffer at each read that converts: a megabyte, when it is not told otherwise.
+TEST_F(ParfileHdf5StorageRead, ConvertsInASmallBuffer)
+{
+  plain_hdf5::MakeFileWithParfile();
+  plain_hdf5::MakeGroup("/PARFILE/DV_");
+  plain_hdf5::MakeGroup("/PARFILE/DV_/porosity");
+  const std::int32_t zero = 0;
+  plain_hdf5::MakeKey("/PARFILE/DV_/porosity/KEY_", H5T_STD_I32BE, 1, &zero);
+  const ParfileHdf5Storage storage;
+  {
+    const BufferProbe probe(H5T_STD_I32BE, H5T_NATIVE_INT);
+    IntegerOf(storage, "KEY_", 1);
+    EXPECT_EQ(conversion_buffer, 4096U);
+  }
+  const BufferProbe probe(H5T_NATIVE_INT, H5T_STD_I32BE);
+  storage.SetValue("DV_", "porosity", "KEY_", 1, vtmInteger, 5);
+  EXPECT_EQ(conversion_buffer, 4096U);
+}

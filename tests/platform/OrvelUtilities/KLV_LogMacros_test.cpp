@@ -1,5 +1,6 @@
 #include "OrvelUtilities/KLV_LogMacros.h"
 
+#include <atomic>
 #include <memory>
 #include <stdexcept>
 #include <string>
@@ -169,4 +170,43 @@ TEST_F(KLV_LogMacrosTest, HandsOverTheRecordsOfSeveralThreadsOneByOne)
   }
 
   EXPECT_EQ(records.size(), 2000u);
+}
+
+TEST_F(KLV_LogMacrosTest, LosesNoRecordWhileAnotherThreadChangesTheSink)
+{
+  constexpr int calls = 2000;
+  int of_one = 0;
+  int of_another = 0;
+  KLV_LogMacros::SetSink([&](const KLV_LogRecord&) { ++of_one; });
+  std::atomic<bool> at_work{true};
+  std::thread changer([&] {
+    while (at_work)
+    {
+      KLV_LogMacros::SetSink([&](const KLV_LogRecord&) { ++of_another; });
+      KLV_LogMacros::SetSink([&](const KLV_LogRecord&) { ++of_one; });
+    }
+  });
+  for (int call = 0; call < calls; ++call)
+  {
+    KLV_LogMacros::debug("s", call, "p", "text");
+  }
+  at_work = false;
+  changer.join();
+  EXPECT_EQ(of_one + of_another, calls);
+}
+
+TEST_F(KLV_LogMacrosTest, LetsASinkThatIsReplacedLogItsEnd)
+{
+  struct LogsItsEnd
+  {
+    ~LogsItsEnd() { KLV_LogMacros::debug("s", 1, "p", "the end"); }
+  };
+  auto held = std::make_shared<LogsItsEnd>();
+  KLV_LogMacros::SetSink([held](const KLV_LogRecord&) {});
+  held.reset();
+
+  std::vector<KLV_LogRecord> records;
+  CollectInto(records);
+
+  EXPECT_THAT(records, ElementsAre(TextIs("the end")));
 }
