@@ -1,9 +1,11 @@
 """The worked example of CONTRIBUTING.md, followed to the letter on a copy of the tree: its changes are applied, its commands are
-run, the library is built, and the expectations that the example adds are met."""
+run, the library is built, and the expectations that the example adds are met. Only that of a whole job's log is compared by its names
+alone, as the whole tool would have to be built to print it."""
 
 import os
 import re
 import subprocess
+import sys
 import tempfile
 import unittest
 from pathlib import Path
@@ -12,6 +14,7 @@ from pages import FENCE, REPOSITORY, run
 
 CMAKE = os.environ["ORVEL_CMAKE"]
 ADDING_A_KEY = re.compile(r"^## Adding a key$(.*?)^## ", re.MULTILINE | re.DOTALL)
+LOGGED_CURVE = re.compile(r"\|SCALING_CURVE_\] .*\n((?:m_.*\n)+)")
 SCALING_CURVE = re.compile(r"^## SCALING_CURVE_$(.*?)^## ", re.MULTILINE | re.DOTALL)
 
 # The tests of the class and of the schema, a program of a user, and the tool with the one subcommand that the page calls: all
@@ -41,6 +44,9 @@ target_link_libraries(expectations PRIVATE OrvelCommands::OrvelCommands Orvel::D
 add_executable(user user.cpp "@TREE@/examples/map_storage/MapStorage.cpp")
 target_include_directories(user PRIVATE "@TREE@/examples/map_storage")
 target_link_libraries(user PRIVATE OrvelCommands::OrvelCommands)
+
+add_executable(load_parfile "${tests}/interop/load_parfile.cpp")
+target_link_libraries(load_parfile PRIVATE OrvelCommands::OrvelCommands)
 """
 
 TOOL = """
@@ -59,6 +65,7 @@ int main(int count, char** words)
 USER = """
 #include "MapStorage.h"
 #include "OrvelCommands/commands/gyre_commands.h"
+#include "OrvelUtilities/KLV_LogMacros.h"
 
 #include <iostream>
 
@@ -78,6 +85,8 @@ int main()
   storage.AddValue("SCALING_CURVE_", "ramp", "STEEPNESS_", vtmDouble, 7.25);
   curve.Load(storage, "ramp");
   std::cout << curve.HasSTEEPNESS_() << " " << curve.GetSTEEPNESS_() << "\\n";
+  KLV_LogMacros::SetSink([](const KLV_LogRecord& record) { std::cout << record.text; });
+  curve.ToString();
 }
 """
 
@@ -122,6 +131,11 @@ class WorkedExample(unittest.TestCase):
         path = f"{self.build}/bin:{os.environ['PATH']}"
         run("bash", "-euc", text, folder=self.tree, environment={**os.environ, "PATH": path})
 
+    @staticmethod
+    def names_in(log):
+        """What is told of a scaling curve, but for the values of keys that it may have."""
+        return [name for name in re.findall(r"^(m_\w+): ", log, re.MULTILINE) if name != "m_STEEPNESS_"]
+
     def test_leads_to_a_key_that_works(self):
         run(CMAKE, "-S", self.project, "-B", self.build, "-G", "Ninja", "-DCMAKE_BUILD_TYPE=None")
         page = (self.tree / "CONTRIBUTING.md").read_text(encoding="utf-8")
@@ -129,12 +143,19 @@ class WorkedExample(unittest.TestCase):
         self.assertEqual([language for language, _ in steps], ["diff", "sh", "sh", "diff", "diff"])
         for step in steps:
             self.follow(*step)
-        run(CMAKE, "--build", self.build, "--target", "expectations", "user")
+        run(CMAKE, "--build", self.build, "--target", "expectations", "user", "load_parfile")
 
-        self.assertEqual(run(self.build / "bin" / "user"), "0 0\n1 7.25\n")
+        found = run(self.build / "bin" / "user")
+        self.assertTrue(found.startswith("0 0\n1 7.25\n"), found)
+        log = (self.tree / "tests/tools/orvel-parfile/golden/bent_duct_log.txt").read_text(encoding="utf-8")
+        self.assertEqual([self.names_in(logged) for logged in LOGGED_CURVE.findall(log)], [self.names_in(found)])
+        self.assertIn("m_has_STEEPNESS_: no", log)
         ended = run(self.build / "bin" / "expectations")
         self.assertIn("[  PASSED  ]", ended)
         self.assertIn("ScalingCurve.LoadsAllItsKeysInOrderAndAsksForTheOptionalOne", ended)
+        run(sys.executable, "-B", "interop_test.py", "LibraryReadsWhatH5pyBuilt", folder=self.tree / "tests" / "interop",
+            environment={**os.environ, "ORVEL_LOAD_PARFILE": str(self.build / "bin" / "load_parfile"),
+                         "ORVEL_WRITE_PARFILE": ""})
         described = SCALING_CURVE.search((self.tree / "docs" / "commands.md").read_text(encoding="utf-8"))[1]
         self.assertIn("`STEEPNESS_`", described)
 

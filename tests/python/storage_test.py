@@ -194,12 +194,14 @@ def test_nothing_can_be_written_to_a_storage_opened_to_read(tmp_path):
     path = write_parameter_file(tmp_path, minimal_job())
     before = path.read_bytes()
     with ParfileHdf5Storage(tmp_path) as storage:
-        for attempt in (lambda: storage.AddCommand("DV_", "area"),
-                        lambda: storage.AddValue("DV_", "porosity", "ELEMENT_GROUP_", "pipes"),
-                        lambda: storage.SetValue("DV_", "porosity", "INITIAL_", 1, 0.9),
-                        lambda: storage.DeleteValues("DV_", "porosity", "INITIAL_")):
-            with pytest.raises(Exception):
+        for code, attempt in (("185548010612", lambda: storage.AddCommand("DV_", "area")),
+                              ("172758040612", lambda: storage.AddValue("DV_", "porosity", "ELEMENT_GROUP_", "pipes")),
+                              ("172740040612", lambda: storage.SetValue("DV_", "porosity", "INITIAL_", 1, 0.9)),
+                              ("172740050612", lambda: storage.AddReference("DV_", "porosity", "DV_", "porosity")),
+                              ("202404140612", lambda: storage.DeleteValues("DV_", "porosity", "INITIAL_"))):
+            with pytest.raises(KLV_Failure) as caught:
                 attempt()
+            assert caught.value.code == code
     assert path.read_bytes() == before
 
 

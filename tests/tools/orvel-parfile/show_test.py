@@ -188,6 +188,16 @@ class Listing(ShowTest):
         self.write("job.toml", '[FILTER_.fine]\n[DV_.d]\nFILTER_ = ["fine"]\n')
         self.assertEqual(["DV_ d", "  FILTER_  FILTER_ fine"], self.show("job.toml", "DV_").splitlines()[:2])
 
+    def test_a_key_of_too_many_values_is_not_read(self):
+        path = write_parameter_file(self.folder, {"DV_": {"d": {}}})
+        with h5py.File(path, "a") as file:
+            for key, count in (("INITIAL_", 100_000_000), ("TYPE_", 100_000_001)):
+                file["PARFILE/DV_/d"].create_dataset(key, (count,), chunks=(1000,), dtype=[("a", "i4"), ("b", "f8")])
+        self.assertEqual(
+            ["DV_ d", "  INITIAL_  (a compound of 12 bytes, which this tool cannot read)",
+             "  TYPE_     (100000001 values, which this tool cannot read)"], self.show().splitlines()[:3])
+        self.assertIn("TYPE_ is 100000001 values\n", self.tool("export").err)
+
     def test_texts_that_could_be_mistaken_are_quoted(self):
         group = {"MERGE_": texts("plain text", "a, b", "", " blank", 'say "yes"', "back\\slash", "Löser")}
         self.assert_shows(
