@@ -19,7 +19,8 @@
 /// the call stack at its construction.
 ///
 /// \warning A copy shares the cause with its source, and each of them deletes it when destroyed. Copy a failure
-/// that has a cause with Clone(), never with the copy constructor, and catch it by reference.
+/// that has a cause with Clone(), never with the copy constructor, throw it where it is made, since a failure that is
+/// thrown by its name is copied, and catch it by reference.
 class ORVELCOMMANDS_EXPORT KLV_Exception : public std::exception
 {
 public:

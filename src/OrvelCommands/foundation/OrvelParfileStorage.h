@@ -27,7 +27,7 @@
 /// Nothing is reported by a result. What a storage itself finds wrong it throws as a KLV_Failure; failures of what it
 /// stands on may pass. Which absences are a failure and which read as nothing is told by each storage, and a command
 /// that reads a key without asking first depends on it. The output argument keeps what it held where nothing is
-/// delivered, unless the storage says otherwise.
+/// delivered, unless the storage says otherwise. It must not be one of the arguments that say what to read.
 ///
 /// The library reads only. The write half is for modules that fill a storage, a command before its keys and the
 /// target of a reference before the reference; a read-only storage ignores it without a word.

@@ -22,8 +22,8 @@
 ///
 /// Construct it on a storage, call Load() once, then ValidateModelIds() where a database is open, then read.
 ///
-/// Ownership: it owns every command; what its operations hand out belongs to it and lives as long as it does, or as
-/// long as the aggregate that was moved from it. The storage is not owned and must outlive Load() and
+/// Ownership: it owns every command; what its operations hand out belongs to it, passes on as it is moved, and lives as
+/// long as the aggregate that owns it then. The storage is not owned and must outlive Load() and
 /// ValidateModelIds(); nothing else touches it.
 ///
 /// A kind of which a job has any number is read as a whole, by an id, or by a place counted from 1. Throws: "Invalid ID
@@ -31,11 +31,16 @@
 /// retrieve. Number of available commands is %d" with code "204046270608".
 /// A kind of which a job has exactly one is read as that one; by an id that is not its own comes a command that was
 /// never loaded, with an empty id. Throws: "%d commands of type X_ detected. Only one is expected." with code
-/// "204046270608", also while loading.
+/// "204046270608", also while loading and, where such a command is referred to, while a second Load() links.
 ///
 /// \warning A reference to such a kind links to the command that was never loaded when its id is wrong: nothing fails.
+/// The commands that were never loaded stay behind when an aggregate is moved: what refers to one may use it only while
+/// the aggregate lives that handed it out or linked to it.
 ///
-/// Cost: a command is found by its id in one pass over the commands of its kind.
+/// \warning After a failure of Load() the number of references of the key that was being linked can be ahead of its list,
+/// so that not every place below it is there: read the lists of such a job as a whole.
+///
+/// Cost: a command is found by its id in one pass over the commands of its kind, for each reference that is linked too.
 class ORVELCOMMANDS_EXPORT Gyre_Parfile : public Parfile
 {
 public:

@@ -21,15 +21,15 @@
 ///
 /// Construct it on a storage, call Load() once, then ValidateModelIds() where a database is open, then read.
 ///
-/// Ownership: it owns every command; what its operations hand out belongs to it and lives as long as it does, or as
-/// long as the aggregate that was moved from it. The storage is not owned and must outlive Load() and
+/// Ownership: it owns every command; what its operations hand out belongs to it, passes on as it is moved, and lives as
+/// long as the aggregate that owns it then. The storage is not owned and must outlive Load() and
 /// ValidateModelIds(); nothing else touches it.
 ///
 /// A kind of which a job has any number is read as a whole, by an id, or by a place counted from 1. Throws: "Invalid ID
 /// %s of the parameter file command X_" with code "161700240908"; "Invalid index %d of the parameterfile command X_ to
 /// retrieve. Number of available commands is %d" with code "204046270608".
 ///
-/// Cost: a command is found by its id in one pass over the commands of its kind.
+/// Cost: a command is found by its id in one pass over the commands of its kind, for each reference that is linked too.
 class ORVELCOMMANDS_EXPORT Smooth_Parfile : public Parfile
 {
 public:

@@ -30,17 +30,18 @@ void RequireOneCommand(std::uint64_t count, const std::string& kind, const char*
 void ReportProblems(const std::vector<KLV_ParfileException>& problems, const char* aggregate);
 
 /// Loads the command at a position and appends it.
-/// \warning A command whose loading fails is not deleted: it is lost together with what it had read.
+/// \warning A command whose own loading fails is not deleted: it is lost together with what it had read.
 template <class Command>
 void LoadOneCommand(const OrvelParfileStorage& storage, std::uint64_t position, std::vector<Command*>& list)
 {
-  auto* command = new Command();
+  auto owner = std::make_unique<Command>();
   std::string name;
   storage.GetCommandName(Command::s_type, position, name);
+  Command* command = owner.release();
   command->Load(storage, name);
-  std::unique_ptr<Command> loaded(command);
+  owner.reset(command);
   list.push_back(command);
-  loaded.release();
+  owner.release();
 }
 
 /// Loads all commands of a kind, in the storage's order.

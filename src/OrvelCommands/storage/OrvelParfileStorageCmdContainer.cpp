@@ -59,8 +59,21 @@ OrvelParfileStorageCmdContainer::OrvelParfileStorageCmdContainer(const OrvelCmdC
 OrvelParfileStorageCmdContainer::OrvelParfileStorageCmdContainer(const OrvelParfileStorageCmdContainer& other) =
   default;
 
+// All or nothing: tables of one container beside another would lead to other commands without a word.
 OrvelParfileStorageCmdContainer&
-OrvelParfileStorageCmdContainer::operator=(const OrvelParfileStorageCmdContainer& other) = default;
+OrvelParfileStorageCmdContainer::operator=(const OrvelParfileStorageCmdContainer& other)
+{
+  OrvelParfileStorageCmdContainer copy(other);
+  std::swap(m_cmd_container, copy.m_cmd_container);
+  m_spare_names.swap(copy.m_spare_names);
+  m_spare_name_pairs.swap(copy.m_spare_name_pairs);
+  std::swap(m_command_records, copy.m_command_records);
+  m_id_positions.swap(copy.m_id_positions);
+  m_key_mappings.swap(copy.m_key_mappings);
+  m_list_items.swap(copy.m_list_items);
+  m_singleton_commands.swap(copy.m_singleton_commands);
+  return *this;
+}
 
 OrvelParfileStorageCmdContainer::~OrvelParfileStorageCmdContainer() = default;
 

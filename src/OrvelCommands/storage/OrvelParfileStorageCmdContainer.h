@@ -35,6 +35,7 @@
 /// OrvelCmdItemError with the item and both types.
 ///
 /// Cost: names are found by hashing. The numbers and names of element and node groups walk all groups at each call.
+/// Reading one name of a list of groups copies the list.
 class ORVELCOMMANDS_EXPORT OrvelParfileStorageCmdContainer : public OrvelParfileStorage
 {
 public:
@@ -44,7 +45,7 @@ public:
   /// Shares the container of \p other.
   OrvelParfileStorageCmdContainer(const OrvelParfileStorageCmdContainer& other);
 
-  /// Shares the container of \p other.
+  /// Shares the container of \p other. When there is no memory for its tables, nothing changes.
   OrvelParfileStorageCmdContainer& operator=(const OrvelParfileStorageCmdContainer& other);
 
   ~OrvelParfileStorageCmdContainer() override;

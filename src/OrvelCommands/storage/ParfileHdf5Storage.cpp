@@ -426,7 +426,7 @@ void ParfileHdf5Storage::AppendValue(const std::string& command, const std::stri
   H5::DataSet dataset = Guarded<H5::Exception>(hdf5_failures::kAddNotReached, [&] {
     const H5::Group group = m_parfile_group.openGroup(GroupPath(command, id_name));
     RequireMovable<Value>(type, hdf5_failures::kWriteElement);  // before a key is made for nothing
-    return OpenForAppend(group, key, *data_type, position);
+    return OpenForAppend(group, GroupPath(command, id_name), key, *data_type, position);
   });
   Set(dataset, *data_type, position, value);
   CloseWritten(dataset);
@@ -540,7 +540,8 @@ void ParfileHdf5Storage::AddValue(const std::string& command, const std::string&
   AppendValue(command, id_name, key, type, value);
 }
 
-H5::DataSet ParfileHdf5Storage::OpenForAppend(const H5::Group& group, const std::string& key, const H5::DataType& type,
+H5::DataSet ParfileHdf5Storage::OpenForAppend(const H5::Group& group, const std::string& group_path,
+                                              const std::string& key, const H5::DataType& type,
                                               std::size_t& position) const
 {
   if (HasGroupOrSet(group, key))
@@ -553,7 +554,8 @@ H5::DataSet ParfileHdf5Storage::OpenForAppend(const H5::Group& group, const std:
   H5::DSetCreatPropList layout;
   layout.setChunk(1, chunk);
   position = 0;  // a key is made with room for its first value
-  return group.createDataSet(key, type, m_value_space, layout);
+  // By its path, as HDF5 would make "/KEY" of a group at the root of the file.
+  return m_parfile_group.createDataSet(group_path + "/" + key, type, m_value_space, layout);
 }
 
 void ParfileHdf5Storage::DeleteValues(const std::string& command, const std::string& id_name, const std::string& key)
@@ -594,8 +596,8 @@ void ParfileHdf5Storage::AddReference(const std::string& command, const std::str
     // The binding's class for a target that is not there has moved between versions.
     Handled<H5::IdComponentException>([&] { Handled<H5::ReferenceException>(refer_to_target, fail_on_target); },
                                       fail_on_target);
-    return OpenForAppend(m_parfile_group.openGroup(GroupPath(command, id_name)), key, H5::PredType::STD_REF_OBJ,
-                         position);
+    const std::string group_path = GroupPath(command, id_name);
+    return OpenForAppend(m_parfile_group.openGroup(group_path), group_path, key, H5::PredType::STD_REF_OBJ, position);
   });
   Set(dataset, H5::PredType::STD_REF_OBJ, position, &reference);
   CloseWritten(dataset);

@@ -1,5 +1,7 @@
 /// \file
-/// The storage over an HDF5 file. A storage is used by one thread at a time.
+/// The storage over an HDF5 file. A storage is used by one thread at a time. Two threads may use two storages where
+/// HDF5 is built for threads, and then make them one after the other, as each takes its file from the working
+/// directory.
 #pragma once
 
 #include "OrvelCommands/foundation/OrvelParfileStorage.h"
@@ -38,7 +40,7 @@ struct FailureText;
 /// program has called `H5::Exception::dontPrint()`.
 ///
 /// Cost: each lookup of a name is one pass over the names of its group, in name order, and ends at the match. No
-/// names are kept between calls.
+/// names are kept between calls. Counting the commands of a kind and naming one are walks over them too.
 ///
 /// Other processes: several may read a file at once. While one has it open for writing no other can open it, and while
 /// one reads it no other can open it for writing; the constructor then fails at once with its first failure. (HDF5
@@ -196,8 +198,8 @@ private:
 
   // Opens a key of a command for one more value, making it when it is not there, and tells the 0-based place of that
   // value.
-  H5::DataSet OpenForAppend(const H5::Group& group, const std::string& key, const H5::DataType& type,
-                            std::size_t& position) const;
+  H5::DataSet OpenForAppend(const H5::Group& group, const std::string& group_path, const std::string& key,
+                            const H5::DataType& type, std::size_t& position) const;
 
   template <class Value>
   void ReadValue(const std::string& command, const std::string& id_name, const std::string& key, std::uint64_t index,

@@ -107,6 +107,24 @@ TEST_F(ParfileHdf5StorageWrite, MakesOneMoreLevelForASlashInAName)
                           "group /PARFILE/DV_/inlet/upper", "dataset /PARFILE/DV_/inlet/upper/TYPE_"));
 }
 
+TEST_F(ParfileHdf5StorageWrite, MakesAKeyThatBeginsWithASlashInItsCommand)
+{
+  {
+    const ParfileHdf5Storage storage = FreshStorage();
+    storage.AddCommand("DV_", "porosity");
+    storage.AddCommand("FILTER_", "fine");
+    storage.AddValue("DV_", "porosity", "/INITIAL_", vtmDouble, 0.4);
+    storage.AddReference("DV_", "porosity", "/FILTER_", "FILTER_", "fine");
+    EXPECT_THAT(
+      FailureOf([&] { storage.AddValue("DV_", "porosity", "/PARFILE/FILTER_/fine/RADIUS_", vtmDouble, 0.1); }),
+      IsDatabaseFailure("Failed to add value in the optimization database.", "172758040612"));
+  }
+  EXPECT_THAT(plain_hdf5::Objects(),
+              ElementsAre("group /PARFILE", "group /PARFILE/DV_", "group /PARFILE/DV_/porosity",
+                          "dataset /PARFILE/DV_/porosity/FILTER_", "dataset /PARFILE/DV_/porosity/INITIAL_",
+                          "group /PARFILE/FILTER_", "group /PARFILE/FILTER_/fine"));
+}
+
 TEST_F(ParfileHdf5StorageWrite, TakesNamesWithBlanksAndBytesOutsideAscii)
 {
   {

@@ -63,6 +63,7 @@ public:
 
   /// Reads all keys but the references from the storage. Nothing is cleared first and no value is tested.
   /// Throws: what the storage throws; members read before then keep what they got.
+  /// \warning After a failure the number of values of a key can be ahead of its list: read that as a whole.
   void Load(const OrvelParfileStorage& storage, const std::string& id);
 
   /// Writes one record to the debug log: a line for each member, cut at 1023 characters.
