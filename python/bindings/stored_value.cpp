@@ -4,6 +4,8 @@
 
 #include <pybind11/stl.h>
 
+#include <algorithm>
+
 namespace py = pybind11;
 
 namespace orvel::python
@@ -16,9 +18,36 @@ namespace
   throw py::type_error(std::string(field.key) + " takes " + wanted + ", not " + std::string(py::repr(value)));
 }
 
+// The casts of the binding would cut a fraction off.
+bool IsWhole(const py::handle& value)
+{
+  const auto index = py::reinterpret_steal<py::object>(PyNumber_Index(value.ptr()));
+  PyErr_Clear();
+  return static_cast<bool>(index);
+}
+
+bool AreWhole(const py::object& value, const int*)
+{
+  return IsWhole(value);
+}
+
+bool AreWhole(const py::object& values, const std::vector<int>*)
+{
+  return !py::isinstance<py::sequence>(values) || std::all_of(values.begin(), values.end(), IsWhole);
+}
+
+bool AreWhole(const py::object&, const void*)
+{
+  return true;
+}
+
 template <class Value>
 Value Take(const schema::Field& field, const char* wanted, const py::object& value)
 {
+  if (!AreWhole(value, static_cast<const Value*>(nullptr)))
+  {
+    RefuseType(field, wanted, value);
+  }
   try
   {
     return value.cast<Value>();

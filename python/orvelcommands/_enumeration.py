@@ -23,6 +23,15 @@ class CommandEnumeration(enum.IntEnum):
             value._value_ = number
             return value
 
+    def __copy__(self) -> CommandEnumeration:
+        return self
+
+    def __deepcopy__(self, memory: dict[int, Any]) -> CommandEnumeration:
+        return self
+
+    def __reduce_ex__(self, protocol: Any) -> tuple[Any, ...]:
+        return type(self)._of_number, (int(self),)
+
 
 def make_enumeration(command_class: type, key: str, enumerators: dict[str, int],
                      documentation: str) -> type[CommandEnumeration]:

@@ -1,6 +1,8 @@
 """Loaded jobs as Python objects. The expectations are typed from the job descriptions of the examples."""
 
+import copy
 import os
+import pickle
 
 import pytest
 from orvelcommands import (ALGO_, DV_, FILTER_, Gyre_Parfile, KLV_Failure, OrvelCommand, ParfileHdf5Storage,
@@ -69,6 +71,14 @@ def test_a_number_without_an_enumerator_keeps_its_number_and_is_called_invalid(t
     assert repr(kind) == "<Enum_TYPE_.INVALID: -7>"
     with pytest.raises(ValueError, match="-7 is not a valid"):
         DV_.Enum_TYPE_(-7)
+
+
+def test_enumerators_can_be_copied_and_pickled(job, tmp_path):
+    commands = minimal_job()
+    commands["DV_"]["porosity"]["TYPE_"] = integers(-7)
+    for kind in (job.DV_[1].TYPE_, load(tmp_path, commands).ALGO_.DV_.TYPE_):
+        for other in (copy.copy(kind), copy.deepcopy([kind])[0], pickle.loads(pickle.dumps(kind))):
+            assert (type(other), other.name, other.value) == (type(kind), kind.name, kind.value)
 
 
 def test_the_same_command_is_the_same_object(job):

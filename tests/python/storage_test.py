@@ -1,5 +1,8 @@
 """An HDF5 storage that is filled and changed from Python, read back with h5py."""
 
+import decimal
+import fractions
+
 import h5py
 import numpy
 import pytest
@@ -129,6 +132,28 @@ def test_a_whole_number_beyond_32_bits_is_a_type_error(storage, number):
     storage.AddCommand("OPT_PARAM_", "run")
     with pytest.raises(TypeError, match="OPT_START_ takes a whole number of 32 bits"):
         storage.AddValue("OPT_PARAM_", "run", "OPT_START_", number)
+
+
+@pytest.mark.parametrize("number", [decimal.Decimal("3.7"), fractions.Fraction(7, 2), numpy.float32(3.0),
+                                    numpy.array([3.0]), "3", None])
+def test_a_number_that_may_have_a_fraction_is_no_whole_number(storage, number):
+    storage.AddCommand("OPT_PARAM_", "run")
+    for key, value in (("OPT_START_", number), ("STORE_INT_", [1, number]), ("STORE_INT_", (number,))):
+        with pytest.raises(TypeError, match=f"{key} takes a (list of )?whole numbers? of 32 bits"):
+            storage.AddValue("OPT_PARAM_", "run", key, value)
+        assert not storage.HasElement("OPT_PARAM_", "run", key)
+    if not isinstance(number, str):
+        with pytest.raises(TypeError, match="TYPE_ takes an enumerator, its number or its name"):
+            storage.AddValue("DV_", "porosity", "TYPE_", number)
+
+
+@pytest.mark.parametrize("number", [3, True, numpy.int8(3), numpy.uint64(3)])
+def test_a_whole_number_of_any_class_is_taken(storage, number):
+    storage.AddCommand("OPT_PARAM_", "run")
+    storage.AddValue("OPT_PARAM_", "run", "OPT_START_", number)
+    storage.AddValue("OPT_PARAM_", "run", "STORE_INT_", [number, 4])
+    assert storage.GetValue("OPT_PARAM_", "run", "OPT_START_", 1) == number
+    assert storage.GetValue("OPT_PARAM_", "run", "STORE_INT_", 1) == (number, 4)
 
 
 @pytest.mark.parametrize("given", [99, "NODE", ""])

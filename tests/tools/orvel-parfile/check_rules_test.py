@@ -1,7 +1,9 @@
 """Each rule of orvel-parfile check, provoked and passed: in parameter files that h5py wrote and in job descriptions."""
 
+import os
 import re
 import shlex
+import subprocess
 import tomllib
 import unittest
 
@@ -9,7 +11,8 @@ import h5py
 import numpy
 
 from check_support import ALL_RULES, CheckTest, Finding, coordinate_system, operator, response, sound_job
-from support import FAULTS, GOOD, ROOT, doubles, integer_lists, integers, references, texts
+from support import FAULTS, GOOD, ROOT, SANITIZERS, TOOL, doubles, integer_lists, integers, references, texts, \
+    write_parameter_file
 
 FACE_IDS = 'face_groups = ["inlet", "outlet"]\n'
 
@@ -325,6 +328,12 @@ class CommandCounts(RulesTest):
         self.assert_finds(("command-count", "MODEL_", "", "", "2"), ("command-count", "ALGO_", "", "", "2"))
         self.assertEqual("there are 2 ALGO_, where a job has one: shape, topology", self.texts(of="command-count")[1])
 
+    def test_of_too_many_one_goes_that_nothing_refers_to(self):
+        self.job["OBJ_FUNC_"]["aaa"] = self.job["OBJ_FUNC_"]["loss"]
+        self.build(self.job)
+        self.assertEqual(["leave one; of another, take it away with: orvel-parfile unset OBJ_FUNC_ aaa"],
+                         self.remedies(of="command-count"))
+
     def test_a_smoothing_job_has_no_such_kinds(self):
         self.build({})
         self.assertEqual([], self.findings("--job", "smooth"))
@@ -333,6 +342,54 @@ class CommandCounts(RulesTest):
         text = "[MODEL_.a]\n[MODEL_.b]\n[OBJ_FUNC_.o]\n[ALGO_.a]\n"
         self.assert_finds_in(text + "[FLOWPATHS_.f]\n", "command-count", (2, 1))
         self.assert_finds_in(text, "command-count", (1, 1), (2, 1))
+
+
+class RemediesOfOddNames(RulesTest):
+    """They are followed by a shell as they stand."""
+
+    def follow(self, remedy):
+        programs = self.folder.parent / "bin"
+        programs.mkdir(exist_ok=True)
+        if not (programs / "orvel-parfile").exists():
+            (programs / "orvel-parfile").symlink_to(TOOL)
+        return subprocess.run(
+            ["bash", "-c", remedy.split("take it away with: ")[1]], cwd=self.folder, capture_output=True, text=True,
+            check=False, env={**os.environ, **SANITIZERS, "TMPDIR": str(self.scratch),
+                              "PATH": f"{programs}:{os.environ['PATH']}"})
+
+    def test_take_a_key_away_that_looks_like_an_option(self):
+        for name in ("--force", "--attributes", "-x", "-", "++", "-inf", "\x01x", "[1]"):
+            with self.subTest(name):
+                self.job["DV_"]["porosity"] = {**sound_job()["DV_"]["porosity"], name: texts("x")}
+                path = self.build(self.job)
+                ended = self.follow(self.remedies(of="unknown-key")[0])
+                self.assertEqual((GOOD, ""), (ended.returncode, ended.stderr))
+                with h5py.File(path, "r") as file:
+                    self.assertEqual(["INITIAL_", "TYPE_"], list(file["PARFILE/DV_/porosity"]))
+
+    def test_take_the_attributes_of_a_command_away_that_looks_like_an_option(self):
+        self.job["STOP_"]["--force"] = self.job["STOP_"]["converged"]
+        with self.open_file() as file:
+            file["PARFILE/STOP_/--force"].attrs["note"] = 1
+        ended = self.follow(self.remedies(of="foreign-object")[0])
+        self.assertEqual((GOOD, ""), (ended.returncode, ended.stderr))
+        self.assertEqual([], self.findings(of="foreign-object"))
+        self.assertIn("--force", self.tool("show").out)
+
+    def test_give_a_command_another_value_that_looks_like_an_option(self):
+        self.job["FILTER_"] = {"-a": {"PATCH_ID_": texts("default")}, "-b": {"PATCH_ID_": texts("default")}}
+        self.job["DV_"]["porosity"]["FILTER_"] = references("FILTER_/-a", "DV_/porosity")
+        self.build(self.job)
+        remedy = self.remedies(of="wrong-target")[0]
+        self.assertIn("orvel-parfile set -- DV_ porosity FILTER_ -a", remedy)
+
+    def test_take_a_kind_away_in_a_folder_that_looks_like_an_option(self):
+        run = self.folder / "-run"
+        run.mkdir()
+        write_parameter_file(run, {**sound_job(), "X_": {"x": {}}})
+        remedy = self.remedies("./-run", of="unknown-kind")[0]
+        ended = self.follow(remedy)
+        self.assertEqual((GOOD, ""), (ended.returncode, ended.stderr), remedy)
 
 
 class UnresolvedReferences(RulesTest):
@@ -345,6 +402,15 @@ class UnresolvedReferences(RulesTest):
         self.set_references("ALGO_/topology/STOP_", 1)
         self.assertEqual([("unresolved-reference", "ALGO_", "topology", "STOP_", "")], self.findings())
         self.assertEqual(["there are converged; orvel-parfile set ALGO_ topology STOP_ ID"],
+                         self.remedies(of="unresolved-reference"))
+
+    def test_several_that_were_never_set_stand_beside_each_other(self):
+        self.job["FILTER_"] = {"fine": {"PATCH_ID_": texts("default")}}
+        self.job["DV_"]["porosity"]["FILTER_"] = references("FILTER_/fine", "FILTER_/gone", "FILTER_/gone")
+        self.job["FILTER_"]["gone"] = {"PATCH_ID_": texts("default")}
+        with self.open_file() as file:
+            del file["PARFILE/FILTER_/gone"]
+        self.assertEqual(["there are fine; orvel-parfile set DV_ porosity FILTER_ fine ID ID"] * 2,
                          self.remedies(of="unresolved-reference"))
 
     def test_a_reference_whose_target_was_removed(self):
@@ -474,6 +540,16 @@ class Cycles(RulesTest):
         self.assertEqual(["OPERATOR_ c: OPERATOR_ closes a circle: OPERATOR_ b -> OPERATOR_ c -> OPERATOR_ b"],
                          self.texts(of="reference-cycle"))
 
+    def test_that_are_many_and_long_are_told_by_their_ends(self):
+        chain = "".join(f'[OPERATOR_.o{number:04}]\nOPERATOR_ = ["o0000", "o{number + 1:04}"]\n' for number in range(1500))
+        self.write("job.toml", chain + "[OPERATOR_.o1500]\n")
+        circles = self.texts("job.toml", of="reference-cycle")
+        self.assertEqual(1500, len(circles))
+        self.assertIn("OPERATOR_ o0099 -> OPERATOR_ o0100 -> OPERATOR_ o0000", circles[100])
+        self.assertIn("OPERATOR_ o0008 -> OPERATOR_ o0009 -> 1480 more -> OPERATOR_ o1490 -> ", circles[-1])
+        self.assertTrue(circles[-1].endswith("OPERATOR_ o1499 -> OPERATOR_ o0000"), circles[-1])
+        self.assertLess(sum(map(len, circles)), 1_000_000)
+
     def test_of_one_operator(self):
         self.job["OPERATOR_"] = {}
         self.chain("a", "a")
@@ -592,6 +668,14 @@ class Limits(RulesTest):
             tables.setdefault(kind, []).append(f"{lower_key} = {lower}\n{upper_key} = {upper}\n")
         return "".join(f"[{kind}.x]\n{''.join(keys)}" for kind, keys in tables.items())
 
+    def test_of_large_whole_numbers_are_told_as_they_may_be_written(self):
+        stop = self.job["STOP_"]["converged"]
+        stop["ITER_MIN_"], stop["ITER_MAX_"] = integers(200000), integers(100000)
+        self.build(self.job)
+        self.assertEqual(["STOP_ converged: ITER_MIN_ is 200000, above ITER_MAX_, which is 100000"], self.texts(of="limits"))
+        remedy = "lower the one or raise the other: orvel-parfile set STOP_ converged ITER_MIN_ 100000"
+        self.assertEqual([remedy], self.remedies(of="limits"))
+
     def test_every_pair_the_wrong_way_round(self):
         self.write("job.toml", self.description(2, 1))
         self.assertEqual([(kind, key, "2") for kind, key, _ in self.PAIRS],
@@ -705,6 +789,19 @@ class ModelIds(RulesTest):
         self.assertTrue(remedies[0].startswith("the nearest is faces_of_part_0; there are faces_of_part_0, "))
         self.assertTrue(remedies[-1].startswith("there are faces_of_part_0, "))
         self.assertTrue(remedies[-1].endswith(" and 900 more"))
+
+    def test_groups_are_in_doubt_beside_a_key_that_may_name_them(self):
+        self.job["NODE_GROUP_"] = {"rim": {"MERGE_": texts("rim")}}
+        self.job["DV_"]["porosity"]["NODE_GROUP_"] = integers(3)
+        self.build(self.job)
+        self.assertEqual([], self.findings(of="unused-group"))
+        del self.job["DV_"]["porosity"]["NODE_GROUP_"]
+        self.build(self.job)
+        self.assertEqual(1, len(self.findings(of="unused-group")))
+        self.job["SMOOTH_"] = {"s": {"INCLUDE_GROUP_": integers(3)}}
+        self.build(self.job)
+        self.assertEqual([], self.findings(of="unused-group"))
+        self.assert_finds_in('[SMOOTH_.s]\nEXCLUDE_GROUP_ = "rim"\n[NODE_GROUP_.rim]\n', "unused-group")
 
     def test_groups_that_no_other_command_names(self):
         self.job["NODE_GROUP_"] = {"rim": {"MERGE_": texts("rim")}, "holes": {"MERGE_": texts("rim")}}

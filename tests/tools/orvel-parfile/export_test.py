@@ -217,6 +217,7 @@ class FilesOfOtherPrograms(ExportTest):
             model.attrs["author"] = "x"
             file["PARFILE/NOTE"] = [1]
             file["PARFILE"].create_group(b"K\xff")
+            file["PARFILE"].create_group(b"L\xc3/\xa9x")  # which is UTF-8 without the slash
         self.assertEqual(
             (FAULTS, "",
              "/PARFILE/MODEL_/duct is 1 attribute\n"
@@ -224,6 +225,7 @@ class FilesOfOtherPrograms(ExportTest):
              "/PARFILE/MODEL_/duct/SUB is a group where a key stands\n"
              "/PARFILE/NOTE is a dataset where a group stands\n"
              "the kind K\\xff has a name that is no UTF-8\n"
+             "L\\xc3 \\xa9x has a name that is no UTF-8\n"
              "MODEL_ duct: PAIR is a compound of 12 bytes\n"
              "MODEL_ duct: RANK0 is a dataset of rank 0, where a key has rank 1\n"
              "MODEL_ duct: RANK2 is a dataset of rank 2, where a key has rank 1\n"

@@ -272,6 +272,13 @@ class WithAnotherDot(GraphTest):
         finally:
             signal.signal(signal.SIGHUP, former)
 
+    def test_it_is_waited_for_also_where_the_parent_ignores_the_end_of_programs(self):
+        self.write_dot("exec /bin/echo picture")
+        result = self.tool("graph", "job.toml", "-o", "job.svg", environment={"PATH": str(self.programs)},
+                           preexec_fn=lambda: signal.signal(signal.SIGCHLD, signal.SIG_IGN))
+        self.assertEqual((GOOD, ""), (result.code, result.err))
+        self.assertEqual("picture\n", (self.folder / "job.svg").read_text())
+
     def test_no_shell_stands_between(self):
         self.write_dot('exec /bin/echo "$@" | /bin/cat')
         name = "$(touch broken);'\".svg"

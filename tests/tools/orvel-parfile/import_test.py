@@ -1,13 +1,15 @@
 """orvel-parfile import: what it writes, what it refuses, and what it leaves behind."""
 
 import os
+import signal
+import subprocess
 import tomllib
 import unittest
 
 import h5py
 import numpy
 
-from support import EXAMPLES, FAULTS, FILE_NAME, GOOD, TYPES, UNUSABLE, ToolTest, names_in
+from support import EXAMPLES, FAULTS, FILE_NAME, GOOD, TOOL, TYPES, UNUSABLE, ToolTest, names_in
 
 # Keys whose value is one list, where an array of any other key holds one value for each element.
 LIST_KEYS = {("NODE_GROUP_", "LIST_"), ("OPT_PARAM_", "STORE_INT_"), ("OUTPUT_", "ITERATION_"),
@@ -613,6 +615,12 @@ class FaultsOfReferences(ImportTest):
                 self.assertEqual(["job.toml"], names_in(self.folder))
 
 
+    def test_one_beside_a_reference_to_nothing_is_reported_too(self):
+        self.assert_faults(
+            '[MONITOR_.swirl]\nDRESP_ = { type = "reference", values = ["DRESP_/gone", ""] }\n',
+            "job.toml:2:42: MONITOR_ swirl: DRESP_: there is no DRESP_ gone")
+
+
 class UnusableInputs(ImportTest):
     def assert_unusable(self, err, *arguments):
         before = names_in(self.folder)
@@ -753,6 +761,44 @@ class ExistingFile(ImportTest):
         self.assertEqual({"MODEL_": {"duct": {"FILE_": ("text", [b"duct.cgns\0"])}}},
                          read_parameter_file(self.place))
         self.assertEqual(["job.toml", FILE_NAME], names_in(self.folder))
+
+    def test_keeps_its_rights_when_it_is_replaced(self):
+        self.write("job.toml", MODEL)
+        for arguments in (("import", "job.toml", "--force"), ("init", "--force")):
+            for rights in (0o600, 0o640, 0o664):
+                with self.subTest(arguments, rights=oct(rights)):
+                    self.place.chmod(rights)
+                    self.assertEqual(GOOD, self.tool(*arguments, umask=0o022).code)
+                    self.assertEqual(rights, self.place.stat().st_mode & 0o7777)
+
+    def test_stays_when_it_comes_while_the_new_one_is_made(self):
+        for arguments in (("import", "job.toml"), ("init",)):
+            with self.subTest(arguments):
+                self.place.unlink()
+                run = self.stopped_in_the_midst(arguments)
+                self.place.write_bytes(b"came meanwhile")
+                run.send_signal(signal.SIGCONT)
+                _, err = run.communicate(timeout=120)
+                self.assertEqual((UNUSABLE, f"{self.place} exists already; --force replaces it\n"),
+                                 (run.returncode, err.decode()))
+                self.assertEqual(b"came meanwhile", self.place.read_bytes())
+                self.assertEqual(["job.toml", FILE_NAME], names_in(self.folder))
+
+    def stopped_in_the_midst(self, arguments):
+        """A run that is stopped while it has a folder for its file and nothing in the place."""
+        self.write("job.toml", "".join(f"[FILTER_.f{number}]\nRADIUS_ = 1.0\n" for number in range(300)))
+        while True:
+            run = subprocess.Popen([TOOL, *arguments], cwd=self.folder, stdout=subprocess.DEVNULL, stderr=subprocess.PIPE)
+            while run.poll() is None and names_in(self.folder) == ["job.toml"]:
+                pass
+            run.send_signal(signal.SIGSTOP)
+            if run.returncode is None:
+                _, status = os.waitpid(run.pid, os.WUNTRACED)
+                if os.WIFSTOPPED(status) and len(names_in(self.folder)) == 2 and not self.place.exists():
+                    return run
+                run.send_signal(signal.SIGCONT)
+            run.communicate()
+            self.place.unlink(missing_ok=True)
 
     def test_a_second_import_adds_nothing_to_the_first(self):
         self.copy_example("bent_duct")

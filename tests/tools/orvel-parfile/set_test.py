@@ -1,13 +1,14 @@
 """orvel-parfile set: what it changes, what it leaves, what it refuses."""
 
 import os
+import struct
 import tomllib
 import unittest
 
 import h5py
 import numpy
 
-from support import FILE_NAME, GOOD, TYPES, UNUSABLE, ToolTest, doubles, minimal_job, names_in, references, texts, \
+from support import FAULTS, FILE_NAME, GOOD, TYPES, UNUSABLE, ToolTest, doubles, minimal_job, names_in, references, texts, \
     write_parameter_file
 from tree import changes, tree_of
 
@@ -152,6 +153,15 @@ class WrongThings(SetTest):
             del command["INITIAL_"]
             write(command)
 
+    NOTES = {
+        "group": "/PARFILE/DV_/porosity/INITIAL_: a group where a key stands was in its place with what it held before\n",
+        "soft link": "/PARFILE/DV_/porosity/INITIAL_: a soft link was in its place with what it held before\n"}
+
+    def test_go_with_their_attributes_which_are_told(self):
+        result = self.tool("set", "DV_", "porosity", "TYPE_", "AUTO")
+        self.assertEqual((GOOD, "DV_ porosity: TYPE_ DENSITY -> AUTO\n",
+                          "/PARFILE/DV_/porosity/TYPE_: 1 attribute went with what it held before\n"), result)
+
     def test_are_replaced_by_the_right_type_and_rank(self):
         cases = {
             "float32": (lambda command: command.create_dataset("INITIAL_", data=numpy.float32([0.5])), "0.5"),
@@ -170,7 +180,7 @@ class WrongThings(SetTest):
             with self.subTest(name):
                 self.break_key(write)
                 before = tree_of(self.file)
-                self.assertEqual((GOOD, f"DV_ porosity: INITIAL_ {text} -> 0.4\n", ""),
+                self.assertEqual((GOOD, f"DV_ porosity: INITIAL_ {text} -> 0.4\n", self.NOTES.get(name, "")),
                                  self.tool("set", "DV_", "porosity", "INITIAL_", "0.4"))
                 after = tree_of(self.file)
                 self.assertEqual(expected, after["/PARFILE/DV_/porosity/INITIAL_"])
@@ -294,7 +304,72 @@ class Refusals(SetTest):
                             "  HDF5 reported the following error:\n  H5Fopen failed\n")
 
 
+    def test_a_number_that_its_type_does_not_hold(self):
+        self.assert_refused(("DV_", "porosity", "MINE_", "1e300", "--type", "float32"),
+                            "DV_ porosity: MINE_ must be a number that its type holds, not 1e300")
+        self.assert_sets(("DV_", "porosity", "MINE_", "inf", "--type", "float32"),
+                         "DV_ porosity: MINE_ (none) -> inf", "DV_/porosity/MINE_", [float("inf")])
+        self.write("job.toml", '[DV_.d]\nMINE_ = { type = "float32", values = [-1e39] }\n')
+        result = self.tool("import", "job.toml", "--force")
+        self.assertEqual((FAULTS, ""), (result.code, result.out))
+        self.assertIn("must be a number that its type holds", result.err)
+
+
+class OddWords(SetTest):
+    def test_reach_the_key_as_they_stand(self):
+        for words in (("++",), ("a", "++", "b"), ("\x01", "\x01a"), ("[1", "]"), ("-inf",)):
+            with self.subTest(words):
+                self.assertEqual(GOOD, self.tool("set", "FLOWPATHS_", "bend", "OUT_", *words).code)
+                self.assertEqual([word.encode() + b"\0" for word in words], self.values("FLOWPATHS_/bend/OUT_"))
+
+    def test_do_not_lose_a_mark_of_their_own(self):
+        job = minimal_job()
+        job["STOP_"].update({name: job["STOP_"]["converged"] for name in ("abc", "\x01abc")})
+        write_parameter_file(self.folder, job)
+        self.assertEqual(GOOD, self.tool("unset", "STOP_", "\x01abc").code)
+        with h5py.File(self.file, "r") as file:
+            self.assertEqual(["abc", "converged"], list(file["PARFILE/STOP_"]))
+
+
+class Places(SetTest):
+    def test_behind_a_link_to_a_folder_are_those_of_the_system(self):
+        ours, theirs = self.folder / "run", self.folder / "other" / "run"
+        for place in (ours, theirs, self.folder / "other" / "sub"):
+            place.mkdir(parents=True)
+        for place in (ours, theirs):
+            write_parameter_file(place, minimal_job())
+        (self.folder / "link").symlink_to("other/sub")
+        before = (ours / FILE_NAME).read_bytes()
+        self.assertEqual(GOOD, self.tool("set", "link/../run", "DV_", "porosity", "INITIAL_", "0.9").code)
+        self.assertEqual(before, (ours / FILE_NAME).read_bytes())
+        with h5py.File(theirs / FILE_NAME, "r") as file:
+            self.assertEqual([0.9], list(file["PARFILE/DV_/porosity/INITIAL_"]))
+
+    def test_in_other_files_are_not_changed(self):
+        victim = self.folder / "victim.h5"
+        self.file.rename(victim)
+        before = victim.read_bytes()
+        with h5py.File(self.file, "w") as file:
+            file["PARFILE"] = h5py.ExternalLink(str(victim), "/PARFILE")
+        for arguments in (("set", "DV_", "porosity", "INITIAL_", "0.7"), ("unset", "DV_", "porosity", "INITIAL_"),
+                          ("unset", "DV_", "porosity", "--attributes")):
+            with self.subTest(arguments):
+                self.assertEqual(
+                    (UNUSABLE, "", f"{self.file}: /PARFILE is a link, and what it leads to is not changed\n"),
+                    self.tool(*arguments))
+                self.assertEqual(before, victim.read_bytes())
+
+
 class TheFile(SetTest):
+    def test_keeps_its_access_control_list(self):
+        entries = ((0x01, 6, -1), (0x02, 6, 1000), (0x04, 0, -1), (0x10, 6, -1), (0x20, 0, -1))  # tag, rights, user
+        rights = struct.pack("<I", 2) + b"".join(struct.pack("<HHi", *entry) for entry in entries)
+        os.setxattr(self.file, "system.posix_acl_access", rights)
+        for arguments in (("set", "DV_", "porosity", "INITIAL_", "0.1"), ("init", "--force")):
+            with self.subTest(arguments):
+                self.assertEqual(GOOD, self.tool(*arguments).code)
+                self.assertEqual(rights, os.getxattr(self.file, "system.posix_acl_access"))
+
     def test_keeps_its_rights(self):
         for rights in (0o640, 0o600, 0o664, 0o666):
             self.file.chmod(rights)

@@ -92,7 +92,12 @@ class Commands(UnsetTest):
              "DV_ porosity: FILTER_ refers to FILTER_ smooth and now leads nowhere\n"), result)
         with h5py.File(self.file, "r") as file:
             self.assertEqual(["spare"], list(file["PARFILE/FILTER_"]))
-            self.assertEqual(1, len(file["PARFILE/DV_/porosity/FILTER_"]))
+            self.assertEqual([False], [bool(reference) for reference in file["PARFILE/DV_/porosity/FILTER_"]])
+
+    def test_that_are_made_later_are_not_what_a_removed_one_was(self):
+        self.assertEqual(GOOD, self.tool("unset", "FILTER_", "smooth", "--force").code)
+        self.assertEqual(GOOD, self.tool("set", "--new", "FILTER_", "later", "PATCH_ID_", "x").code)
+        self.assertIn("FILTER_   nothing", self.tool("show", "DV_").out)
 
     def test_that_only_refer_to_themselves_are_removed(self):
         with h5py.File(self.file, "a") as file:
@@ -140,6 +145,17 @@ class Attributes(UnsetTest):
                 (old_content, old), (new_content, new) = difference[path]
                 self.assertEqual((old_content, {}), (new_content, new))
                 self.assertEqual(1, len(old))
+
+    def test_behind_a_link_stay(self):
+        with h5py.File(self.folder / "victim.h5", "w") as file:
+            file.create_group("x").attrs["mine"] = 1
+        with h5py.File(self.file, "a") as file:
+            file["PARFILE/EXT_"] = h5py.ExternalLink(str(self.folder / "victim.h5"), "/x")
+        before = (self.folder / "victim.h5").read_bytes()
+        for kind in ("EXT_", "SOFT_", "FAR_"):
+            result = self.tool("unset", kind, "--attributes")
+            self.assertEqual((UNUSABLE, "", f"/PARFILE/{kind} has no attributes\n"), result)
+        self.assertEqual(before, (self.folder / "victim.h5").read_bytes())
 
     def test_where_there_are_none(self):
         self.assert_refused(("FILTER_", "--attributes"), "/PARFILE/FILTER_ has no attributes")

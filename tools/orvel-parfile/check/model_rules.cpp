@@ -108,16 +108,31 @@ private:
     }
   }
 
-  // A key that was refused may have named any group.
+  // A key that was refused, or whose values are no texts, may have named any group.
   void CollectRefused(const JobCommand& command)
   {
     for (const std::string& key : command.refused_keys)
     {
-      const schema::Field* field = FieldOf(command, key);
-      if (field != nullptr && field->id_type)
+      DoubtNamesIn(FieldOf(command, key));
+    }
+    for (const JobKey& key : command.keys)
+    {
+      if (key.type != &TextType())
       {
-        m_doubtful.insert(*field->id_type);
+        DoubtNamesIn(FieldOf(command, key.name));
       }
+    }
+  }
+
+  void DoubtNamesIn(const schema::Field* field)
+  {
+    if (field != nullptr && field->id_type)
+    {
+      m_doubtful.insert(*field->id_type);
+    }
+    else if (field != nullptr && IsPlainGroupName(*field))
+    {
+      m_doubtful.insert({KLV_IdType::element_group, KLV_IdType::face_group, KLV_IdType::node_group});
     }
   }
 

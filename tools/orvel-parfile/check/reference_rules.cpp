@@ -110,6 +110,26 @@ private:
   NameOffers m_offers;
 };
 
+bool RefersTo(const JobCommand& command, const JobReference& target)
+{
+  return std::any_of(command.keys.begin(), command.keys.end(), [&](const JobKey& key) {
+    return std::any_of(key.items.begin(), key.items.end(),
+                       [&](const JobItem& item) { return item.value == JobValue(target); });
+  });
+}
+
+// The last of them that nothing refers to, or the last.
+const JobCommand& OneToRemove(const CheckSubject& subject, const std::string& kind, const std::vector<std::string>& ids)
+{
+  const auto is_free = [&](const std::string& id) {
+    return std::none_of(subject.job.commands.begin(), subject.job.commands.end(), [&](const JobCommand& command) {
+      return RefersTo(command, {kind, id});
+    });
+  };
+  const auto free = std::find_if(ids.rbegin(), ids.rend(), is_free);
+  return *subject.index.Find(kind, free != ids.rend() ? *free : ids.back());
+}
+
 void CheckCounts(const CheckSubject& subject, std::vector<Finding>& findings)
 {
   for (const schema::Command& kind : schema::Commands())
@@ -135,7 +155,7 @@ void CheckCounts(const CheckSubject& subject, std::vector<Finding>& findings)
       {
         names += (names.empty() ? "" : ", ") + PlainText(id);
       }
-      const JobCommand& last = *subject.index.Find(name, ids.back());
+      const JobCommand& last = OneToRemove(subject, name, ids);
       findings.push_back({&rules::command_count,
                           name,
                           {},
@@ -195,18 +215,37 @@ std::string WithoutReference(const CheckSubject& subject, const JobCommand& comm
                      : subject.remedies.Set(command, *FieldOf(command, key.name), ids);
 }
 
+// Of circles beyond so many steps in all, only the two ends are told, or a job of some thousand commands that all refer
+// back to the first would be told in gigabytes.
+constexpr std::size_t kMostSteps = 10000;
+constexpr std::size_t kStepsAtAnEnd = 10;
+
+std::string PathOf(const ReferenceCycle& cycle, const ReferenceGraph& graph, bool is_whole)
+{
+  const std::size_t size = cycle.commands.size();
+  const std::size_t left_out = is_whole ? 0 : size - std::min(size, 2 * kStepsAtAnEnd);
+  std::string path;
+  for (std::size_t step = 0; step < size; ++step)
+  {
+    if (left_out > 0 && step == kStepsAtAnEnd)
+    {
+      path += std::to_string(left_out) + " more -> ";
+      step += left_out;
+    }
+    path += NameOf(*graph.Commands()[cycle.commands[step]]) + " -> ";
+  }
+  return path + NameOf(*graph.Commands()[cycle.commands.front()]);
+}
+
 void NoteCycles(const CheckSubject& subject, const ReferenceGraph& graph, std::vector<Finding>& findings)
 {
+  std::size_t steps = 0;
   for (const ReferenceCycle& cycle : FindCycles(graph))
   {
-    std::string path;
-    for (const std::size_t place : cycle.commands)
-    {
-      path += NameOf(*graph.Commands()[place]) + " -> ";
-    }
+    steps += cycle.commands.size();
     const JobCommand& last = *graph.Commands()[cycle.commands.back()];
     findings.push_back(About(rules::reference_cycle, last, *cycle.closing.key, *cycle.closing.item,
-                             "closes a circle: " + path + NameOf(*graph.Commands()[cycle.commands.front()]),
+                             "closes a circle: " + PathOf(cycle, graph, steps <= kMostSteps),
                              "one of these references is too much; for this one: " +
                                WithoutReference(subject, last, *cycle.closing.key, *cycle.closing.item)));
   }

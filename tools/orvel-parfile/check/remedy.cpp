@@ -40,6 +40,13 @@ std::string ShellWord(const std::string& word)
   return quoted + "'";
 }
 
+// Whether the tool would take a word for one; a negative number is none.
+bool IsLikeAnOption(const std::string& word)
+{
+  const bool is_number = word.size() > 1 && (std::isdigit(static_cast<unsigned char>(word[1])) != 0 || word[1] == '.');
+  return word.rfind('-', 0) == 0 && !is_number;
+}
+
 bool IsBareInToml(const schema::Field& field)
 {
   return field.type == vtmInteger || field.type == vtmDouble || field.type == vtmIntegerList ||
@@ -221,19 +228,25 @@ Remedies::Remedies(std::filesystem::path file, bool is_description)
 {
 }
 
-std::string Remedies::Command(const std::string& subcommand, const std::vector<std::string>& words) const
+std::string Remedies::Command(const std::string& subcommand, std::vector<std::string> words,
+                              const std::string& option) const
 {
-  std::string text = "orvel-parfile " + subcommand + (m_file == "." ? "" : " " + ShellWord(m_file.string()));
+  if (m_file != ".")
+  {
+    words.insert(words.begin(), m_file.string());
+  }
+  const bool are_plain = std::none_of(words.begin(), words.end(), IsLikeAnOption);
+  std::string text = "orvel-parfile " + subcommand + (are_plain ? "" : (option.empty() ? "" : " " + option) + " --");
   for (const std::string& word : words)
   {
     text += " " + ShellWord(word);
   }
-  return text;
+  return text + (are_plain && !option.empty() ? " " + option : "");
 }
 
-std::string Remedies::TakeAway(const std::vector<std::string>& words) const
+std::string Remedies::TakeAway(const std::vector<std::string>& words, const std::string& option) const
 {
-  return "take it away with: " + Command("unset", words);
+  return "take it away with: " + Command("unset", words, option);
 }
 
 std::string Remedies::Set(const JobCommand& command, const schema::Field& field,
@@ -268,7 +281,10 @@ std::string Remedies::Replace(const JobCommand& command, const JobKey& key, std:
   for (std::size_t each = 0; each < key.items.size(); ++each)
   {
     const auto* target = std::get_if<JobReference>(&key.items[each].value);
-    values.push_back(each == place ? value : target != nullptr ? target->id : ValueText(key.items[each].value, &field));
+    const std::string kept = target == nullptr  ? ValueText(key.items[each].value, &field)
+                             : target->IsNull() ? Placeholder(field)  // needs a remedy of its own
+                                                : target->id;
+    values.push_back(each == place ? value : kept);
   }
   return Set(command, field, values);
 }
@@ -312,9 +328,5 @@ std::string Remedies::RemoveForeign(const std::vector<std::string>& names, bool 
 {
   std::vector<std::string> words = names;
   words.erase(std::remove(words.begin(), words.end(), std::string()), words.end());
-  if (is_attribute)
-  {
-    words.emplace_back("--attributes");
-  }
-  return TakeAway(words);
+  return TakeAway(words, is_attribute ? "--attributes" : "");
 }

@@ -40,8 +40,9 @@ public:
   std::string RemoveForeign(const std::vector<std::string>& names, bool is_attribute) const;
 
 private:
-  std::string Command(const std::string& subcommand, const std::vector<std::string>& words) const;
-  std::string TakeAway(const std::vector<std::string>& words) const;
+  std::string Command(const std::string& subcommand, std::vector<std::string> words,
+                      const std::string& option = {}) const;
+  std::string TakeAway(const std::vector<std::string>& words, const std::string& option = {}) const;
 
   std::filesystem::path m_file;
   bool m_is_description;

@@ -176,7 +176,7 @@ void FindForeignObjects(const CheckSubject& subject, std::vector<Finding>& findi
                         object.what,
                         {},
                         PlainText(object.path) + ": " + object.what + ", which no command reads",
-                        subject.remedies.RemoveForeign(names, object.what.find("attribute") != std::string::npos)});
+                        subject.remedies.RemoveForeign(names, object.IsAttribute())});
   }
 }
 

@@ -114,11 +114,11 @@ void CheckLimits(const CheckSubject& subject, const JobCommand& command, const K
   if (lower && upper && *lower > *upper)
   {
     const JobKey& key = *FindKey(command, pair.one->key);
-    const std::string text =
-      "is " + NumberText(*lower) + ", above " + std::string(pair.other->key) + ", which is " + NumberText(*upper);
-    findings.push_back(
-      About(rules::limits, command, key, key.items.front(), text,
-            "lower the one or raise the other: " + subject.remedies.Set(command, *pair.one, {NumberText(*upper)})));
+    const std::string most = ValueText(FindKey(command, pair.other->key)->items.front().value, pair.other);
+    const std::string text = "is " + ValueText(key.items.front().value, pair.one) + ", above " +
+                             std::string(pair.other->key) + ", which is " + most;
+    findings.push_back(About(rules::limits, command, key, key.items.front(), text,
+                             "lower the one or raise the other: " + subject.remedies.Set(command, *pair.one, {most})));
   }
 }
 

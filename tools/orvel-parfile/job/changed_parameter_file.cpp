@@ -13,10 +13,28 @@ namespace
 
 constexpr const char* kRoot = "/PARFILE/";
 
+bool IsHardLink(hid_t file, const std::string& path)
+{
+  H5L_info_t link{};
+  return H5Lget_info(file, path.c_str(), &link, H5P_DEFAULT) >= 0 && link.type == H5L_TYPE_HARD;
+}
+
+// What a link leads to may lie in another file, which would then be changed in place.
+void RequireCommandsOfItsOwn(const fs::path& path)
+{
+  const Hdf5Handle file(H5Fopen(path.c_str(), H5F_ACC_RDONLY, H5P_DEFAULT), H5Fclose);
+  if (!IsHardLink(file.Id(), "/PARFILE"))
+  {
+    throw UnusableInput(path.string() + ": /PARFILE is a link, and what it leads to is not changed");
+  }
+}
+
 Job ReadToChange(const fs::path& path)
 {
   RequireUnprotected(path);
-  return ReadParameterFile(path);
+  Job job = ReadParameterFile(path);
+  RequireCommandsOfItsOwn(path);
+  return job;
 }
 
 bool HasLink(hid_t file, const std::string& path)

@@ -5,6 +5,7 @@
 #include "support/hdf5_handle.h"
 
 #include <algorithm>
+#include <optional>
 
 namespace
 {
@@ -47,19 +48,43 @@ std::vector<Value> ValuesOf(const JobKey& key)
   return values;
 }
 
+// 0 for a reference to nothing, none for one to a command that is not there.
+std::optional<hobj_ref_t> AddressOf(hid_t file, const JobReference& target)
+{
+  hobj_ref_t address = 0;
+  const std::string path = "/PARFILE/" + target.kind + "/" + target.id;
+  if (!target.IsNull() && H5Rcreate(&address, file, path.c_str(), H5R_OBJECT, -1) < 0)
+  {
+    return std::nullopt;
+  }
+  return address;
+}
+
 std::vector<hobj_ref_t> AddressesOf(hid_t file, const JobKey& key)
 {
   std::vector<hobj_ref_t> addresses;
   for (const JobReference& target : ValuesOf<JobReference>(key))
   {
-    hobj_ref_t address = 0;
-    if (!target.IsNull())
-    {
-      H5Rcreate(&address, file, ("/PARFILE/" + target.kind + "/" + target.id).c_str(), H5R_OBJECT, -1);
-    }
-    addresses.push_back(address);
+    addresses.push_back(AddressOf(file, target).value_or(0));
   }
   return addresses;
+}
+
+// Notes each reference to a command that is not there. Returns whether there is none.
+bool HasItsTargets(hid_t file, const JobCommand& command, const JobKey& key, std::vector<std::string>& failures)
+{
+  bool has_all = true;
+  for (const JobItem& item : key.items)
+  {
+    const auto* target = std::get_if<JobReference>(&item.value);
+    if (target != nullptr && !AddressOf(file, *target))
+    {
+      failures.push_back(AtPlace(item.place, command.kind + " " + command.id + ": " + key.name + ": there is no " +
+                                               target->kind + " " + target->id));
+      has_all = false;
+    }
+  }
+  return has_all;
 }
 
 bool WriteElements(hid_t dataset, hid_t memory_type, const void* elements)
@@ -136,7 +161,7 @@ void WriteForeignKeys(const std::filesystem::path& file, const Job& job, std::ve
   {
     for (const JobKey& key : command.keys)
     {
-      if (IsForeign(key) && !WriteKey(handle.Id(), command, key))
+      if (IsForeign(key) && HasItsTargets(handle.Id(), command, key, failures) && !WriteKey(handle.Id(), command, key))
       {
         failures.push_back(
           AtPlace(key.place, command.kind + " " + command.id + ": " + key.name + " cannot be written"));

@@ -60,6 +60,9 @@ struct ForeignObject
 {
   std::string path;
   std::string what;
+
+  /// Whether it is that an object of the layout has attributes.
+  bool IsAttribute() const { return what.find("attribute") != std::string::npos; }
 };
 
 /// All commands. Kinds, and the commands of a kind, stand in the order of their source.

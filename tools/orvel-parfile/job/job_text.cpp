@@ -349,7 +349,7 @@ std::vector<std::string> NotCarried(const Job& job)
   for (const JobCommand& command : job.commands)
   {
     const std::string owner = command.kind + " " + command.id;
-    NoteName(command.kind + command.id, owner, notes);
+    NoteName(IsUtf8(command.kind) ? command.id : command.kind, owner, notes);
     for (const JobKey& key : command.keys)
     {
       NoteName(key.name, owner + ": " + key.name, notes);

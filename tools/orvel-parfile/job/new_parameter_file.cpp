@@ -2,7 +2,7 @@
 
 #include "write_job.h"
 
-NewParameterFile::NewParameterFile(const std::filesystem::path& place) : m_file(place)
+NewParameterFile::NewParameterFile(const std::filesystem::path& place) : m_place(place), m_file(place)
 {
   MakeParameterFile(Path());
 }
@@ -17,7 +17,16 @@ std::filesystem::path NewParameterFile::Path() const
   return m_file.Path();
 }
 
-void NewParameterFile::PutInPlace()
+void NewParameterFile::PutInPlace(bool force)
 {
+  if (!force)
+  {
+    m_file.PutInFreePlace();
+    return;
+  }
+  if (std::filesystem::exists(m_place))
+  {
+    m_file.TakeRightsOfPlace();
+  }
   m_file.PutInPlace();
 }

@@ -24,9 +24,11 @@ public:
   /// The file under work.
   std::filesystem::path Path() const;
 
-  /// Brings the file safely to disk and to its place.
-  void PutInPlace();
+  /// Brings the file safely to disk and to its place; \p force replaces what stands there and keeps its rights.
+  /// Throws: UnusableInput when that is not possible, or without \p force when something has come there meanwhile.
+  void PutInPlace(bool force);
 
 private:
+  std::filesystem::path m_place;
   ReplacementFile m_file;
 };

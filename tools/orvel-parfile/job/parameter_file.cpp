@@ -7,6 +7,7 @@
 
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <system_error>
@@ -28,6 +29,18 @@ void RequireFile(const fs::path& path)
   }
 }
 
+// The shortest path that leads to the same place: behind a link to a folder ".." means more than the words tell.
+fs::path Absolute(const fs::path& argument)
+{
+  fs::path path = fs::absolute(argument);
+  fs::path shortest = path.lexically_normal();
+  const bool may_differ = std::find(path.begin(), path.end(), "..") != path.end();
+  std::error_code missing;
+  const bool is_same = !may_differ || fs::equivalent(path, shortest, missing) ||
+                       fs::equivalent(path.parent_path(), shortest.parent_path(), missing);
+  return is_same ? shortest : path;
+}
+
 }  // namespace
 
 WorkingDirectory::WorkingDirectory(const fs::path& folder) : m_former(fs::current_path())
@@ -47,7 +60,7 @@ fs::path ParameterFilePath(const fs::path& argument)
   {
     throw UnusableInput("the path of the parameter file is empty");
   }
-  fs::path path = fs::absolute(argument).lexically_normal();
+  fs::path path = Absolute(argument);
   if (fs::is_directory(path))
   {
     return path / PARFILE_STORAGE_FILE;
@@ -63,6 +76,11 @@ fs::path ParameterFilePath(const fs::path& argument)
   return path;
 }
 
+void RefuseWhatIsThere(const fs::path& path)
+{
+  throw UnusableInput(path.string() + " exists already; --force replaces it");
+}
+
 fs::path NewParameterFilePath(const fs::path& argument, bool force)
 {
   fs::path path = ParameterFilePath(argument);
@@ -70,7 +88,7 @@ fs::path NewParameterFilePath(const fs::path& argument, bool force)
   {
     if (!force)
     {
-      throw UnusableInput(path.string() + " exists already; --force replaces it");
+      RefuseWhatIsThere(path);
     }
     RequireFile(path);
     RequireUnprotected(path);

@@ -16,6 +16,9 @@ std::filesystem::path ParameterFilePath(const std::filesystem::path& argument);
 /// that is write-protected.
 std::filesystem::path NewParameterFilePath(const std::filesystem::path& argument, bool force);
 
+/// Throws: UnusableInput that tells how to replace what stands there.
+[[noreturn]] void RefuseWhatIsThere(const std::filesystem::path& path);
+
 /// A file that its owner has protected is not replaced behind his back, although its folder may be written.
 /// Throws: UnusableInput for one that is write-protected.
 void RequireUnprotected(const std::filesystem::path& path);

@@ -87,6 +87,7 @@ pid_t StartDot(const std::string& format, std::FILE* input, std::FILE* output, s
   std::string option = "-T" + format;
   const std::array<char*, 3> arguments = {program.data(), option.data(), nullptr};
   pid_t process = 0;
+  ::signal(SIGCHLD, SIG_DFL);  // a parent may have it ignored, and then nobody could wait for the program
   const int error = posix_spawnp(&process, "dot", actions.Get(), nullptr, arguments.data(), environ);
   if (error == ENOENT)
   {

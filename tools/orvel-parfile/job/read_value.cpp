@@ -23,6 +23,12 @@ std::optional<double> AsDouble(const toml::node& node)
   return node.is_number() ? node.value<double>() : std::nullopt;
 }
 
+std::optional<double> AsDouble(const toml::node& node, const StoredType& type)
+{
+  const auto number = AsDouble(node);
+  return number && Holds(type, *number) ? number : std::nullopt;
+}
+
 std::optional<std::string> AsText(const toml::node& node)
 {
   auto text = node.value_exact<std::string>();
@@ -156,7 +162,7 @@ const char* ExpectedValue(const StoredType& type)
   switch (type.shape)
   {
     case ValueShape::Integer: return "a whole number that its type holds";
-    case ValueShape::Number: return "a number";
+    case ValueShape::Number: return "a number that its type holds";
     case ValueShape::IntegerList: return "a list of whole numbers of 32 bits";
     case ValueShape::NumberList: return "a list of numbers";
     case ValueShape::Reference: return "the kind and id of a command, \"KIND_/id\", or \"\" for a reference to nothing";
@@ -169,9 +175,10 @@ std::optional<JobValue> ReadValue(const toml::node& node, const StoredType& type
   switch (type.shape)
   {
     case ValueShape::Integer: return AsJobValue(AsInteger(node, type));
-    case ValueShape::Number: return AsJobValue(AsDouble(node));
+    case ValueShape::Number: return AsJobValue(AsDouble(node, type));
     case ValueShape::Reference: return AsJobValue(AsReference(node));
-    case ValueShape::NumberList: return AsJobValue(AsList<double>(node, AsDouble));
+    case ValueShape::NumberList:
+      return AsJobValue(AsList<double>(node, [](const toml::node& item) { return AsDouble(item); }));
     case ValueShape::IntegerList:
       return AsJobValue(
         AsList<std::int64_t>(node, [](const toml::node& item) { return AsInteger(item, IntegerType()); }));
@@ -210,5 +217,5 @@ std::optional<JobValue> ReadHexValue(const toml::node& node, const StoredType& t
   {
     return JobValue(std::move(numbers));
   }
-  return numbers.size() == 1 ? std::optional<JobValue>(numbers.front()) : std::nullopt;
+  return numbers.size() == 1 && Holds(type, numbers.front()) ? std::optional<JobValue>(numbers.front()) : std::nullopt;
 }

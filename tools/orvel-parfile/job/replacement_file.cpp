@@ -1,14 +1,18 @@
 #include "replacement_file.h"
 
+#include "parameter_file.h"
 #include "support/exit_code.h"
 
 #include <fcntl.h>
+#include <stdio.h>
 #include <sys/stat.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 
 #include <cerrno>
 #include <cstring>
 #include <system_error>
+#include <vector>
 
 namespace fs = std::filesystem;
 
@@ -33,6 +37,22 @@ void BringToDisk(const fs::path& path)
   {
     Refuse(path, "brought to disk", std::strerror(error));
   }
+}
+
+// An access control list goes with the rights: without the one of the place, or with one that its folder gives to new
+// files, they would mean more.
+bool TakeAccessList(const fs::path& from, const fs::path& to)
+{
+  constexpr const char* name = "system.posix_acl_access";
+  const ssize_t size = getxattr(from.c_str(), name, nullptr, 0);
+  if (size <= 0)
+  {
+    removexattr(to.c_str(), name);
+    return true;
+  }
+  std::vector<char> list(static_cast<std::size_t>(size));
+  return getxattr(from.c_str(), name, list.data(), list.size()) == size &&
+         setxattr(to.c_str(), name, list.data(), list.size(), 0) == 0;
 }
 
 }  // namespace
@@ -75,6 +95,10 @@ void ReplacementFile::CopyFromPlace() const
 
 void ReplacementFile::TakeRightsOfPlace() const
 {
+  if (!TakeAccessList(m_place, Path()))
+  {
+    Refuse(m_place, "replaced", "its access control list cannot be kept");
+  }
   struct stat rights
   {
   };
@@ -89,6 +113,23 @@ void ReplacementFile::TakeRightsOfPlace() const
   {
     chmod(Path().c_str(), rights.st_mode & 07777);
   }
+}
+
+void ReplacementFile::PutInFreePlace() const
+{
+  BringToDisk(Path());
+  // Some file systems know links only, others the renaming alone.
+  const bool is_put = renameat2(AT_FDCWD, Path().c_str(), AT_FDCWD, m_place.c_str(), RENAME_NOREPLACE) == 0 ||
+                      (errno == EINVAL && link(Path().c_str(), m_place.c_str()) == 0);
+  if (!is_put && errno == EEXIST)
+  {
+    RefuseWhatIsThere(m_place);
+  }
+  if (!is_put)
+  {
+    Refuse(m_place, "made", std::strerror(errno));
+  }
+  BringToDisk(m_place.parent_path());
 }
 
 void ReplacementFile::PutInPlace() const

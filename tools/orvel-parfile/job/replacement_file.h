@@ -25,10 +25,14 @@ public:
   void CopyFromPlace() const;
 
   /// Gives the file the rights and, where possible, the owner of what stands in the place.
+  /// Throws: UnusableInput when that is not possible.
   void TakeRightsOfPlace() const;
 
   /// Brings the file safely to disk and to its place. Throws: UnusableInput when that is not possible.
   void PutInPlace() const;
+
+  /// The same where nothing may stand in the place. Throws: UnusableInput also when something has come there meanwhile.
+  void PutInFreePlace() const;
 
 private:
   std::filesystem::path m_place;

@@ -3,6 +3,7 @@
 #include "support/hdf5_handle.h"
 
 #include <array>
+#include <cmath>
 
 namespace
 {
@@ -163,6 +164,14 @@ bool AreSameButForByteOrder(const StoredType& one, const StoredType& other)
   const Hdf5Handle second(other.make(), H5Tclose);
   return H5Tget_size(first.Id()) == H5Tget_size(second.Id()) &&
          (one.shape == ValueShape::Number || H5Tget_sign(first.Id()) == H5Tget_sign(second.Id()));
+}
+
+bool Holds(const StoredType& type, double value)
+{
+  const hid_t stored = type.make();
+  const bool is_narrow = H5Tget_size(stored) == sizeof(float);
+  H5Tclose(stored);
+  return !is_narrow || !std::isfinite(value) || std::isfinite(static_cast<float>(value));
 }
 
 bool Holds(const StoredType& type, std::int64_t value)

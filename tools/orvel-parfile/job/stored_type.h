@@ -53,8 +53,11 @@ const StoredType* ClassifyType(hid_t type);
 /// Whether two types hold the same numbers, in whatever order of bytes; for other than numbers, whether they are one.
 bool AreSameButForByteOrder(const StoredType& one, const StoredType& other);
 
-/// Whether a type of whole numbers holds this one.
+/// \name Whether a type of numbers holds this one, a float rounded
+/// @{
 bool Holds(const StoredType& type, std::int64_t value);
+bool Holds(const StoredType& type, double value);
+/// @}
 
 /// What HDF5 calls a type, for messages: "a compound of 12 bytes".
 std::string DescribeType(hid_t type);

@@ -33,7 +33,7 @@ void Import(const Options& options)
   {
     throw FaultyInput(failures);
   }
-  file.PutInPlace();
+  file.PutInPlace(options.force);
   for (const Finding& missing : FindMissingKeys(job))
   {
     std::cerr << AsLine(missing) << "\n";

@@ -23,7 +23,7 @@ void Init(const Options& options)
   const ReplacementLock lock(place);
   NewParameterFile file(place);
   file.Fill({});
-  file.PutInPlace();
+  file.PutInPlace(options.force);
   std::cout << "made " << place.string() << ", without commands\n";
 }
 

@@ -147,6 +147,14 @@ void Set(const Options& options)
 
   const schema::Field* field = FieldOf(wish.command, key.name);
   const JobKey* old = before != nullptr ? FindKey(*before, key.name) : nullptr;
+  for (const ForeignObject& object : file.Before().foreign_objects)
+  {
+    if (object.path == "/PARFILE/" + wish.command.kind + "/" + wish.command.id + "/" + key.name)
+    {
+      std::cerr << object.path << ": " << object.what << (object.IsAttribute() ? " went" : " was in its place")
+                << " with what it held before\n";
+    }
+  }
   std::cout << SubjectText(wish.command.kind, wish.command.id, key.name) << " "
             << (old != nullptr ? ValuesText(*old, field) : "(none)") << " -> " << ValuesText(key, field)
             << (before != nullptr ? "" : ", in a new command") << "\n";

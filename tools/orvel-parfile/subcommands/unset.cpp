@@ -81,11 +81,11 @@ void RequireEmpty(const Job& job, const Target& kind)
   }
 }
 
-// The keys of other commands that refer to a command, "ALGO_ topology: DV_".
-std::vector<std::string> ReferrersOf(const Job& job, const Target& target)
+// The keys of other commands that refer to a command, each as a command with this key alone.
+std::vector<JobCommand> ReferrersOf(const Job& job, const Target& target)
 {
   const JobValue reference = JobReference{target.kind, target.id};
-  std::vector<std::string> referrers;
+  std::vector<JobCommand> referrers;
   for (const JobCommand& command : job.commands)
   {
     for (const JobKey& key : command.keys)
@@ -94,23 +94,41 @@ std::vector<std::string> ReferrersOf(const Job& job, const Target& target)
       if (!is_itself &&
           std::any_of(key.items.begin(), key.items.end(), [&](const JobItem& item) { return item.value == reference; }))
       {
-        referrers.push_back(SubjectText(command.kind, command.id, key.name));
+        referrers.push_back({command.kind, command.id, {key}, {}, {}});
       }
     }
   }
   return referrers;
 }
 
+// A command that is made later could come to lie where the removed one lay.
+void LeadNowhere(const ChangedParameterFile& file, JobCommand referrer, const Target& target)
+{
+  for (JobItem& item : referrer.keys.front().items)
+  {
+    if (item.value == JobValue(JobReference{target.kind, target.id}))
+    {
+      item.value = JobReference();
+    }
+  }
+  file.SetKeys(referrer);
+}
+
 std::string RemoveCommand(const ChangedParameterFile& file, const Target& target, bool force)
 {
-  const std::vector<std::string> referrers = ReferrersOf(file.Before(), target);
-  for (const std::string& referrer : referrers)
+  const std::vector<JobCommand> referrers = ReferrersOf(file.Before(), target);
+  for (const JobCommand& referrer : referrers)
   {
-    std::cerr << referrer << " refers to " << target.Text() << (force ? " and now leads nowhere\n" : "\n");
+    std::cerr << SubjectText(referrer.kind, referrer.id, referrer.keys.front().name) << " refers to " << target.Text()
+              << (force ? " and now leads nowhere\n" : "\n");
   }
   if (!referrers.empty() && !force)
   {
     throw UnusableInput(target.Text() + " is still needed; --force removes it all the same");
+  }
+  for (const JobCommand& referrer : referrers)
+  {
+    LeadNowhere(file, referrer, target);
   }
   file.Remove(target.Path());
   return target.Text() + " removed";
@@ -132,8 +150,9 @@ std::string RemoveKey(const ChangedParameterFile& file, const Target& target)
 std::string RemoveAttributes(const ChangedParameterFile& file, const Target& target)
 {
   const std::string path = "/PARFILE" + (target.kind.empty() ? "" : "/" + target.Path());
-  const bool has_any = std::any_of(file.Before().foreign_objects.begin(), file.Before().foreign_objects.end(),
-                                   [&](const ForeignObject& object) { return object.path == path; });
+  const bool has_any =
+    std::any_of(file.Before().foreign_objects.begin(), file.Before().foreign_objects.end(),
+                [&](const ForeignObject& object) { return object.path == path && object.IsAttribute(); });
   if (!has_any)
   {
     throw UnusableInput(path + " has no attributes");

@@ -9,7 +9,7 @@ constexpr char kMark = '\x01';
 
 bool IsMisread(const std::string& word)
 {
-  return word.rfind('[', 0) == 0 || word == "-inf" || word == "-nan";
+  return word.rfind('[', 0) == 0 || word.rfind(kMark, 0) == 0 || word == "++" || word == "-inf" || word == "-nan";
 }
 
 }  // namespace

@@ -1,6 +1,6 @@
 /// \file
-/// Words of a command line that reach a subcommand as they stand. CLI11 takes "[1, 2]" apart, "-inf" for options, and
-/// the words behind "--" for those of the tool itself.
+/// Words of a command line that reach a subcommand as they stand. CLI11 takes "[1, 2]" apart, "-inf" for options, "++"
+/// for the end of the words, and the words behind "--" for those of the tool itself.
 #pragma once
 
 #include <string>
