@@ -364,7 +364,10 @@ class TheFile(SetTest):
     def test_keeps_its_access_control_list(self):
         entries = ((0x01, 6, -1), (0x02, 6, 1000), (0x04, 0, -1), (0x10, 6, -1), (0x20, 0, -1))  # tag, rights, user
         rights = struct.pack("<I", 2) + b"".join(struct.pack("<HHi", *entry) for entry in entries)
-        os.setxattr(self.file, "system.posix_acl_access", rights)
+        try:
+            os.setxattr(self.file, "system.posix_acl_access", rights)
+        except OSError as error:
+            self.skipTest(f"the file system has no such lists: {error}")
         for arguments in (("set", "DV_", "porosity", "INITIAL_", "0.1"), ("init", "--force")):
             with self.subTest(arguments):
                 self.assertEqual(GOOD, self.tool(*arguments).code)

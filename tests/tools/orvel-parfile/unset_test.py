@@ -94,11 +94,6 @@ class Commands(UnsetTest):
             self.assertEqual(["spare"], list(file["PARFILE/FILTER_"]))
             self.assertEqual([False], [bool(reference) for reference in file["PARFILE/DV_/porosity/FILTER_"]])
 
-    def test_that_are_made_later_are_not_what_a_removed_one_was(self):
-        self.assertEqual(GOOD, self.tool("unset", "FILTER_", "smooth", "--force").code)
-        self.assertEqual(GOOD, self.tool("set", "--new", "FILTER_", "later", "PATCH_ID_", "x").code)
-        self.assertIn("FILTER_   nothing", self.tool("show", "DV_").out)
-
     def test_that_only_refer_to_themselves_are_removed(self):
         with h5py.File(self.file, "a") as file:
             command = file.create_group("PARFILE/OPERATOR_/loop")
