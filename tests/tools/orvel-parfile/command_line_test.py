@@ -4,6 +4,8 @@ import json
 import re
 import unittest
 
+import h5py
+
 from support import (EXAMPLES, FAULTS, FILE_NAME, GOOD, ROOT, UNUSABLE, ToolTest, minimal_job, names_in, references, texts,
                      write_parameter_file)
 
@@ -201,6 +203,30 @@ class SteeringCharacters(ToolTest):
                           ("set", "FILTER_", self.NAME, "PATCH_ID_", self.NAME), ("unset", "FILTER_", self.NAME, "PATCH_ID_")):
             with self.subTest(arguments):
                 self.assertIn(self.ESCAPED, self.assert_harmless(*arguments).out)
+
+    def test_of_paths_reach_no_line_of_output(self):
+        run = self.folder / self.NAME
+        run.mkdir()
+        write_parameter_file(run, minimal_job())
+        with h5py.File(run / FILE_NAME, "a") as file:
+            file["PARFILE/DV_/porosity"].create_dataset(self.NAME, data=[1.0]).attrs["unit"] = 1
+        ids, job, picture = (f"{self.NAME}{ending}" for ending in (".toml", ".job.toml", ".dot"))
+        self.write(ids, 'element_groups = ["box"]\n')
+        self.write(job, "[CS_.c]\nTYPE_ = 1\n[X_.x]\n")
+        for arguments in (("check", self.NAME), ("check", self.NAME, "--model-ids", ids), ("check", job),
+                          ("diff", self.NAME, self.NAME), ("diff", self.NAME, "bare"), ("graph", self.NAME, "-o", picture),
+                          ("unset", self.NAME, "DV_", "porosity", self.NAME, "--attributes"),
+                          ("unset", self.NAME, "DV_", "porosity", self.NAME), ("init", self.NAME, "--force"),
+                          ("import", ids, self.NAME, "--force"), ("import", job, self.NAME, "--force")):
+            with self.subTest(arguments):
+                result = self.assert_harmless(*arguments)
+                self.assertIn(self.ESCAPED, result.out + result.err)
+
+    def test_of_a_key_whose_attributes_go_reach_no_note(self):
+        with h5py.File(self.folder / FILE_NAME, "a") as file:
+            file[f"PARFILE/FILTER_/{self.NAME}/PATCH_ID_"].attrs["unit"] = 1
+        result = self.assert_harmless("set", "FILTER_", self.NAME, "PATCH_ID_", "x")
+        self.assertEqual(f"/PARFILE/FILTER_/{self.ESCAPED}/PATCH_ID_: 1 attribute went with what it held before\n", result.err)
 
     def test_reach_no_fault(self):
         for arguments in (("show", "STOP_", self.NAME), ("show", f"{self.NAME}/", "DV_"), ("export", self.NAME),

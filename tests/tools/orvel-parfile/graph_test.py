@@ -1,5 +1,6 @@
 """orvel-parfile graph: which command refers to which, as text for Graphviz and as a picture."""
 
+import os
 import pathlib
 import re
 import signal
@@ -201,6 +202,15 @@ class Pictures(GraphTest):
         self.write("job.svg", "former")
         self.graph("job.toml", "-o", "job.svg")
         self.assertIn("<svg", (self.folder / "job.svg").read_text())
+
+    def test_keep_the_rights_of_a_former_one_and_a_link_to_it(self):
+        picture = self.write("kept.svg", "former")
+        picture.chmod(0o640)
+        (self.folder / "link.svg").symlink_to("kept.svg")
+        self.assertEqual(GOOD, self.tool("graph", "job.toml", "-o", "link.svg", umask=0o022).code)
+        self.assertEqual("kept.svg", os.readlink(self.folder / "link.svg"))
+        self.assertIn("<svg", picture.read_text())
+        self.assertEqual(0o640, picture.stat().st_mode & 0o7777)
 
     def test_another_ending_is_refused(self):
         for name in ("job.gif", "job", ".svg"):

@@ -1,6 +1,6 @@
 #include "picture.h"
 
-#include "scratch_folder.h"
+#include "replacement_file.h"
 #include "support/exit_code.h"
 #include "support/progress.h"
 
@@ -17,7 +17,6 @@
 #include <cstring>
 #include <memory>
 #include <string_view>
-#include <system_error>
 
 extern char** environ;  // NOLINT(readability-redundant-declaration): not every system's headers have it
 
@@ -137,8 +136,8 @@ void RequirePictureEnding(const fs::path& place)
 void WritePicture(const std::string& text, const fs::path& place)
 {
   RequirePictureEnding(place);
-  const ScratchFolder folder(fs::absolute(place));
-  const fs::path scratch = folder.File();
+  const ReplacementFile replacement(fs::absolute(place));
+  const fs::path scratch = replacement.Path();
   File file(std::fopen(scratch.c_str(), "wbe"));
   if (!file)
   {
@@ -157,10 +156,9 @@ void WritePicture(const std::string& text, const fs::path& place)
   {
     CannotWrite(place);
   }
-  std::error_code error;
-  fs::rename(scratch, place, error);
-  if (error)
+  if (fs::exists(place))
   {
-    throw UnusableInput(place.string() + " cannot be written: " + error.message());
+    replacement.TakeRightsOfPlace();
   }
+  replacement.PutInPlace();
 }

@@ -10,7 +10,7 @@
 /// Throws: UnusableInput for a link to nothing.
 std::filesystem::path PlaceOf(const std::filesystem::path& path);
 
-/// A parameter file that comes to be in a folder of its own beside its place, and only whole takes that place: a kill
+/// A file that comes to be in a folder of its own beside its place, and only whole takes that place: a kill
 /// at any moment leaves what was there before.
 class ReplacementFile
 {

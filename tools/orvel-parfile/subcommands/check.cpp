@@ -12,6 +12,7 @@
 #include "support/nearest_name.h"
 
 #include "OrvelCommands/commands/LocalGenerated/SMOOTH_.h"
+#include "support/plain_text.h"
 
 #include <CLI/CLI.hpp>
 
@@ -117,10 +118,11 @@ void PointFromLibrary(std::vector<Finding>& findings)
 
 void PrintVerdict(const Options& options, const ModelIds* model_ids, const Inventory& inventory)
 {
-  std::cout << options.file << " is good: " << AsText(inventory) << "\n";
+  std::cout << PrintableLines(options.file) << " is good: " << AsText(inventory) << "\n";
   if (model_ids != nullptr)
   {
-    std::cout << "model ids checked against " << model_ids->Count() << " names of " << *options.model_ids << "\n";
+    std::cout << "model ids checked against " << model_ids->Count() << " names of "
+              << PrintableLines(*options.model_ids) << "\n";
   }
   else
   {
@@ -141,7 +143,7 @@ void Check(const Options& options)
   PointFromLibrary(report.findings);
   Sort(report);
   const bool is_good = Count(report).IsGood();
-  std::cout << (options.json ? AsJson(report) : AsText(report));
+  std::cout << (options.json ? AsJson(report) : PrintableLines(AsText(report)));
   if (is_good && !options.json)
   {
     PrintVerdict(options, model_ids, report.inventory);

@@ -4,6 +4,7 @@
 #include "job/read_job.h"
 #include "subcommands.h"
 #include "support/exit_code.h"
+#include "support/plain_text.h"
 #include "support/style.h"
 
 #include <CLI/CLI.hpp>
@@ -62,8 +63,8 @@ void Diff(const Options& options)
   }
   if (!options.json)
   {
-    std::cout << options.before << " and " << options.after << " hold the same: " << AsText(CountContents(before))
-              << "\n";
+    std::cout << PrintableLines(options.before + " and " + options.after)
+              << " hold the same: " << AsText(CountContents(before)) << "\n";
   }
 }
 

@@ -37,7 +37,7 @@ void Graph(const Options& options)
     return;
   }
   WritePicture(text, *options.output);
-  std::cout << "drew " << options.file << " as " << *options.output << ": " << contents << "\n";
+  std::cout << "drew " << PrintableLines(options.file + " as " + *options.output) << ": " << contents << "\n";
 }
 
 }  // namespace

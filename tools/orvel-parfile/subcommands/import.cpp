@@ -6,6 +6,7 @@
 #include "job/parameter_file.h"
 #include "subcommands.h"
 #include "support/exit_code.h"
+#include "support/plain_text.h"
 
 #include <CLI/CLI.hpp>
 
@@ -38,7 +39,7 @@ void Import(const Options& options)
   {
     std::cerr << AsLine(missing) << "\n";
   }
-  std::cout << "imported " << options.job << ": " << AsText(CountContents(job)) << "\n";
+  std::cout << "imported " << PrintableLines(options.job) << ": " << AsText(CountContents(job)) << "\n";
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 #include "job/new_parameter_file.h"
 #include "job/parameter_file.h"
 #include "subcommands.h"
+#include "support/plain_text.h"
 
 #include <CLI/CLI.hpp>
 
@@ -24,7 +25,7 @@ void Init(const Options& options)
   NewParameterFile file(place);
   file.Fill({});
   file.PutInPlace(options.force);
-  std::cout << "made " << place.string() << ", without commands\n";
+  std::cout << "made " << PrintableLines(place.string()) << ", without commands\n";
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include "support/exit_code.h"
 #include "support/file_argument.h"
 #include "support/nearest_name.h"
+#include "support/plain_text.h"
 #include "support/raw_words.h"
 #include "support/schema_names.h"
 
@@ -151,8 +152,8 @@ void Set(const Options& options)
   {
     if (object.path == "/PARFILE/" + wish.command.kind + "/" + wish.command.id + "/" + key.name)
     {
-      std::cerr << object.path << ": " << object.what << (object.IsAttribute() ? " went" : " was in its place")
-                << " with what it held before\n";
+      std::cerr << PrintableLines(object.path) << ": " << object.what
+                << (object.IsAttribute() ? " went" : " was in its place") << " with what it held before\n";
     }
   }
   std::cout << SubjectText(wish.command.kind, wish.command.id, key.name) << " "

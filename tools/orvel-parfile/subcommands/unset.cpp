@@ -4,6 +4,7 @@
 #include "subcommands.h"
 #include "support/exit_code.h"
 #include "support/file_argument.h"
+#include "support/plain_text.h"
 #include "support/raw_words.h"
 
 #include <CLI/CLI.hpp>
@@ -189,7 +190,7 @@ void Unset(const Options& options)
   RequireThere(file.Before(), target);
   const std::string done = Remove(file, target, options);
   file.PutInPlace();
-  std::cout << done << "\n";
+  std::cout << PrintableLines(done) << "\n";
 }
 
 }  // namespace
