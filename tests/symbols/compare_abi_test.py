@@ -33,9 +33,14 @@ class CompareAbi(unittest.TestCase):
             (self.programs / name).chmod(0o755)
         self.git("init", "--quiet")
 
+    def environment(self, **others):
+        """Without what ties git to another repository or to the user's settings."""
+        kept = {name: value for name, value in os.environ.items() if not name.startswith("GIT_")}
+        return {**kept, "GIT_CONFIG_GLOBAL": os.devnull, "GIT_CONFIG_NOSYSTEM": "1", **others}
+
     def git(self, *words):
         subprocess.run(["git", "-c", "user.name=Somebody", "-c", "user.email=somebody@example.org", *words], cwd=self.tree,
-                       check=True)
+                       check=True, env=self.environment())
 
     def set_version(self, version):
         (self.tree / "version").write_text(version)
@@ -48,8 +53,9 @@ class CompareAbi(unittest.TestCase):
 
     def compare(self, status):
         """How it ends and what it says when abidiff ends with a status."""
-        ended = subprocess.run(["tests/symbols/compare_abi"], cwd=self.tree, capture_output=True, text=True, check=False, env={
-            **os.environ, "PATH": f"{self.programs}:{os.environ['PATH']}", "STATUS": str(status)})
+        ended = subprocess.run(
+            ["tests/symbols/compare_abi"], cwd=self.tree, capture_output=True, text=True, check=False,
+            env=self.environment(PATH=f"{self.programs}:{os.environ['PATH']}", STATUS=str(status)))
         return ended.returncode, (ended.stdout + ended.stderr).strip()
 
     def test_has_nothing_to_compare_before_the_first_tag(self):

@@ -37,8 +37,8 @@
 /// The commands that were never loaded stay behind when an aggregate is moved: what refers to one may use it only while
 /// the aggregate lives that handed it out or linked to it.
 ///
-/// \warning After a failure of Load() the number of references of the key that was being linked can be ahead of its list,
-/// so that not every place below it is there: read the lists of such a job as a whole.
+/// \warning After a failure of Load() the number of references of the key that was being linked can be ahead of its
+/// list, so that not every place below it is there: read the lists of such a job as a whole.
 ///
 /// Cost: a command is found by its id in one pass over the commands of its kind, for each reference that is linked too.
 class ORVELCOMMANDS_EXPORT Gyre_Parfile : public Parfile

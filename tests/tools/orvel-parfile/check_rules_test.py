@@ -359,7 +359,7 @@ class RemediesOfOddNames(RulesTest):
                               "PATH": f"{programs}:{os.environ['PATH']}"})
 
     def test_take_a_key_away_that_looks_like_an_option(self):
-        for name in ("--force", "--attributes", "-x", "-", "++", "-inf", "\x01x", "[1]"):
+        for name in ("--force", "--attributes", "-x", "-.x", "-.5", "-", "--", "++", "-inf", "\x01x", "[1]"):
             with self.subTest(name):
                 self.job["DV_"]["porosity"] = {**sound_job()["DV_"]["porosity"], name: texts("x")}
                 path = self.build(self.job)
@@ -541,6 +541,15 @@ class Cycles(RulesTest):
         self.assert_finds(("reference-cycle", "OPERATOR_", "c", "OPERATOR_", "OPERATOR_ b"))
         self.assertEqual(["OPERATOR_ c: OPERATOR_ closes a circle: OPERATOR_ b -> OPERATOR_ c -> OPERATOR_ b"],
                          self.texts(of="reference-cycle"))
+
+    def test_beside_a_reference_to_nothing(self):
+        self.job["OPERATOR_"] = {"gone": operator()}
+        self.chain("a", "a")
+        self.job["OPERATOR_"]["a"]["OPERATOR_"] = references("OPERATOR_/a", "OPERATOR_/gone")
+        with self.open_file() as file:
+            del file["PARFILE/OPERATOR_/gone"]
+        self.assertEqual(["one of these references is too much; for this one: orvel-parfile set OPERATOR_ a OPERATOR_ ID"],
+                         self.remedies(of="reference-cycle"))
 
     def test_that_are_many_and_long_are_told_by_their_ends(self):
         chain = "".join(f'[OPERATOR_.o{number:04}]\nOPERATOR_ = ["o0000", "o{number + 1:04}"]\n' for number in range(1500))

@@ -9,6 +9,7 @@
 #include <sys/file.h>
 
 #include <cerrno>
+#include <cstdlib>
 #include <filesystem>
 #include <functional>
 

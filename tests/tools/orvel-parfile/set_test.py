@@ -8,7 +8,7 @@ import unittest
 import h5py
 import numpy
 
-from support import FAULTS, FILE_NAME, GOOD, TYPES, UNUSABLE, ToolTest, doubles, minimal_job, names_in, references, texts, \
+from support import FAULTS, FILE_NAME, GOOD, TYPES, UNUSABLE, ToolTest, doubles, give_up_privileges, minimal_job, names_in, references, texts, \
     write_parameter_file
 from tree import changes, tree_of
 
@@ -345,6 +345,22 @@ class Places(SetTest):
         with h5py.File(theirs / FILE_NAME, "r") as file:
             self.assertEqual([0.9], list(file["PARFILE/DV_/porosity/INITIAL_"]))
 
+    def test_are_told_apart_where_folders_or_files_have_two_names(self):
+        deeper = self.folder / "deeper"
+        deeper.mkdir()
+        (deeper / "link").symlink_to(".")
+        write_parameter_file(deeper, minimal_job())
+        before = (deeper / FILE_NAME).read_bytes()
+        self.assertEqual(GOOD, self.tool("set", "link/..", "DV_", "porosity", "INITIAL_", "0.9", cwd=deeper).code)
+        self.assertEqual(before, (deeper / FILE_NAME).read_bytes())
+        self.assertEqual([0.9], self.values("DV_/porosity/INITIAL_"))
+
+        (self.folder / "other" / "sub").mkdir(parents=True)
+        (self.folder / "away").symlink_to("other/sub")
+        os.link(self.file, self.folder / "other" / FILE_NAME)
+        self.assertEqual(GOOD, self.tool("set", f"away/../{FILE_NAME}", "DV_", "porosity", "INITIAL_", "0.2").code)
+        self.assertEqual([0.9], self.values("DV_/porosity/INITIAL_"))
+
     def test_in_other_files_are_not_changed(self):
         victim = self.folder / "victim.h5"
         self.file.rename(victim)
@@ -361,6 +377,30 @@ class Places(SetTest):
 
 
 class TheFile(SetTest):
+    @unittest.skipUnless(os.geteuid() == 0, "only root may have files of others")
+    def test_gives_another_group_nothing(self):
+        self.folder.chmod(0o777)
+        self.folder.parent.chmod(0o777)
+        self.scratch.chmod(0o777)
+
+        def be_nobody():
+            os.setgroups([])
+            os.setgid(100)
+            os.setuid(65534)
+
+        for arguments in (("set", "DV_", "porosity", "INITIAL_", "0.1"), ("init", "--force")):
+            with self.subTest(arguments):
+                os.chown(self.file, 65534, 0)
+                self.file.chmod(0o660)
+                self.assertEqual(GOOD, self.tool(*arguments, preexec_fn=be_nobody).code)
+                status = self.file.stat()
+                self.assertEqual((65534, 100, 0o600), (status.st_uid, status.st_gid, status.st_mode & 0o7777))
+
+    def test_may_be_one_that_its_user_cannot_read(self):
+        self.file.chmod(0o200)
+        self.assertEqual((GOOD, ""), self.tool("init", "--force", preexec_fn=give_up_privileges)[::2])
+        self.assertEqual(0o200, self.file.stat().st_mode & 0o7777)
+
     def test_keeps_its_access_control_list(self):
         entries = ((0x01, 6, -1), (0x02, 6, 1000), (0x04, 0, -1), (0x10, 6, -1), (0x20, 0, -1))  # tag, rights, user
         rights = struct.pack("<I", 2) + b"".join(struct.pack("<HHi", *entry) for entry in entries)

@@ -85,6 +85,20 @@ class Commands(UnsetTest):
                             "DV_ porosity: FILTER_ refers to FILTER_ smooth\n"
                             "FILTER_ smooth is still needed; --force removes it all the same\n")
 
+    def test_that_go_with_force_take_nothing_else_away(self):
+        with h5py.File(self.file, "a") as file:
+            key = file["PARFILE/DV_/porosity/FILTER_"]
+            key.attrs["note"] = 1
+            key.resize((3,))
+            key[1] = file["PARFILE/FILTER_/spare"].ref
+            key[2] = file["PARFILE/LUMP_"].ref  # no command
+        self.assertEqual(GOOD, self.tool("unset", "FILTER_", "smooth", "--force").code)
+        with h5py.File(self.file, "r") as file:
+            key = file["PARFILE/DV_/porosity/FILTER_"]
+            self.assertEqual({"note": 1}, dict(key.attrs))
+            self.assertEqual(["", "/PARFILE/FILTER_/spare", "/PARFILE/LUMP_"],
+                             [file[reference].name if reference else "" for reference in key])
+
     def test_that_are_needed_go_with_force(self):
         result = self.tool("unset", "FILTER_", "smooth", "--force")
         self.assertEqual(

@@ -110,20 +110,14 @@ private:
   NameOffers m_offers;
 };
 
-bool RefersTo(const JobCommand& command, const JobReference& target)
-{
-  return std::any_of(command.keys.begin(), command.keys.end(), [&](const JobKey& key) {
-    return std::any_of(key.items.begin(), key.items.end(),
-                       [&](const JobItem& item) { return item.value == JobValue(target); });
-  });
-}
-
 // The last of them that nothing refers to, or the last.
 const JobCommand& OneToRemove(const CheckSubject& subject, const std::string& kind, const std::vector<std::string>& ids)
 {
   const auto is_free = [&](const std::string& id) {
+    const JobReference target{kind, id};
     return std::none_of(subject.job.commands.begin(), subject.job.commands.end(), [&](const JobCommand& command) {
-      return RefersTo(command, {kind, id});
+      return std::any_of(command.keys.begin(), command.keys.end(),
+                         [&](const JobKey& key) { return RefersTo(key, target); });
     });
   };
   const auto free = std::find_if(ids.rbegin(), ids.rend(), is_free);
@@ -208,7 +202,7 @@ std::string WithoutReference(const CheckSubject& subject, const JobCommand& comm
   {
     if (&item != &unwanted)
     {
-      ids.push_back(std::get<JobReference>(item.value).id);
+      ids.push_back(Remedies::WordFor(std::get<JobReference>(item.value)));
     }
   }
   return ids.empty() ? subject.remedies.Remove(command, key.name)

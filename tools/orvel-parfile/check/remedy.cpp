@@ -40,10 +40,10 @@ std::string ShellWord(const std::string& word)
   return quoted + "'";
 }
 
-// Whether the tool would take a word for one; a negative number is none.
+// Whether the tool may take a word for one: none is what begins like a negative number.
 bool IsLikeAnOption(const std::string& word)
 {
-  const bool is_number = word.size() > 1 && (std::isdigit(static_cast<unsigned char>(word[1])) != 0 || word[1] == '.');
+  const bool is_number = word.size() > 1 && std::isdigit(static_cast<unsigned char>(word[1])) != 0;
   return word.rfind('-', 0) == 0 && !is_number;
 }
 
@@ -244,6 +244,11 @@ std::string Remedies::Command(const std::string& subcommand, std::vector<std::st
   return text + (are_plain && !option.empty() ? " " + option : "");
 }
 
+std::string Remedies::WordFor(const JobReference& target)
+{
+  return target.IsNull() ? "ID" : target.id;
+}
+
 std::string Remedies::TakeAway(const std::vector<std::string>& words, const std::string& option) const
 {
   return "take it away with: " + Command("unset", words, option);
@@ -281,10 +286,9 @@ std::string Remedies::Replace(const JobCommand& command, const JobKey& key, std:
   for (std::size_t each = 0; each < key.items.size(); ++each)
   {
     const auto* target = std::get_if<JobReference>(&key.items[each].value);
-    const std::string kept = target == nullptr  ? ValueText(key.items[each].value, &field)
-                             : target->IsNull() ? Placeholder(field)  // needs a remedy of its own
-                                                : target->id;
-    values.push_back(each == place ? value : kept);
+    values.push_back(each == place       ? value
+                     : target == nullptr ? ValueText(key.items[each].value, &field)
+                                         : WordFor(*target));
   }
   return Set(command, field, values);
 }

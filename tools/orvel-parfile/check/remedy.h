@@ -20,6 +20,9 @@ public:
   std::string Set(const JobCommand& command, const orvel::schema::Field& field,
                   const std::vector<std::string>& values) const;
 
+  /// The word that stands for a reference: its id, or for one to nothing, which needs a remedy of its own, "ID".
+  static std::string WordFor(const JobReference& target);
+
   /// Gives a key its values with another one at a place.
   std::string Replace(const JobCommand& command, const JobKey& key, std::size_t place, const std::string& value) const;
 

@@ -86,6 +86,23 @@ void ChangedParameterFile::SetKeys(const JobCommand& command) const
   }
 }
 
+void ChangedParameterFile::MakeNull(const std::string& path, const std::vector<bool>& chosen) const
+{
+  Change(m_file.Path(), [&](hid_t file) {
+    const Hdf5Handle key(H5Dopen2(file, (kRoot + path).c_str(), H5P_DEFAULT), H5Dclose);
+    std::vector<hobj_ref_t> addresses(chosen.size());
+    if (!key.IsOpen() || H5Dread(key.Id(), H5T_STD_REF_OBJ, H5S_ALL, H5S_ALL, H5P_DEFAULT, addresses.data()) < 0)
+    {
+      return false;
+    }
+    for (std::size_t place = 0; place < chosen.size(); ++place)
+    {
+      addresses[place] = chosen[place] ? 0 : addresses[place];
+    }
+    return H5Dwrite(key.Id(), H5T_STD_REF_OBJ, H5S_ALL, H5S_ALL, H5P_DEFAULT, addresses.data()) >= 0;
+  });
+}
+
 void ChangedParameterFile::Remove(const std::string& path) const
 {
   Change(m_file.Path(), [&](hid_t file) { return H5Ldelete(file, (kRoot + path).c_str(), H5P_DEFAULT) >= 0; });
@@ -108,6 +125,5 @@ void ChangedParameterFile::RemoveAttributes(const std::string& path) const
 
 void ChangedParameterFile::PutInPlace() const
 {
-  m_file.TakeRightsOfPlace();
   m_file.PutInPlace();
 }

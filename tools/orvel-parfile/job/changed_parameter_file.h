@@ -8,6 +8,7 @@
 
 #include <filesystem>
 #include <string>
+#include <vector>
 
 /// A changed copy of a parameter file, which takes its place when the change is whole. All that is not changed stays as
 /// it is, also what no command reads.
@@ -25,6 +26,10 @@ public:
   /// Requires: that the targets of references are there.
   /// Throws: UnwritableFile; FaultyInput with what the storage refuses.
   void SetKeys(const JobCommand& command) const;
+
+  /// Makes those references of the key below /PARFILE under the path that are chosen lead nowhere: a command that is
+  /// made later could come to lie where their target lay. Requires: a choice for each value. Throws: UnwritableFile.
+  void MakeNull(const std::string& path, const std::vector<bool>& chosen) const;
 
   /// Removes what stands below /PARFILE under the path, with all it holds. Throws: UnwritableFile.
   void Remove(const std::string& path) const;

@@ -81,6 +81,14 @@ const JobKey* FindKey(const JobCommand& command, std::string_view name)
   return key != command.keys.end() ? &*key : nullptr;
 }
 
+bool RefersTo(const JobKey& key, const JobReference& target)
+{
+  return std::any_of(key.items.begin(), key.items.end(), [&](const JobItem& item) {
+    const auto* reference = std::get_if<JobReference>(&item.value);
+    return reference != nullptr && *reference == target;
+  });
+}
+
 const schema::Field* FieldOf(const JobCommand& command, std::string_view key)
 {
   const schema::Command* kind = schema::FindCommand(command.kind);

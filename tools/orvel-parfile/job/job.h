@@ -76,6 +76,9 @@ struct Job
 /// The key of this name, null when the command has none.
 const JobKey* FindKey(const JobCommand& command, std::string_view name);
 
+/// Whether one of a key's references leads to a command.
+bool RefersTo(const JobKey& key, const JobReference& target);
+
 /// The schema row of a key, null for what no command reads.
 const orvel::schema::Field* FieldOf(const JobCommand& command, std::string_view key);
 

@@ -2,7 +2,7 @@
 
 #include "write_job.h"
 
-NewParameterFile::NewParameterFile(const std::filesystem::path& place) : m_place(place), m_file(place)
+NewParameterFile::NewParameterFile(const std::filesystem::path& place) : m_file(place)
 {
   MakeParameterFile(Path());
 }
@@ -19,14 +19,5 @@ std::filesystem::path NewParameterFile::Path() const
 
 void NewParameterFile::PutInPlace(bool force)
 {
-  if (!force)
-  {
-    m_file.PutInFreePlace();
-    return;
-  }
-  if (std::filesystem::exists(m_place))
-  {
-    m_file.TakeRightsOfPlace();
-  }
-  m_file.PutInPlace();
+  force ? m_file.PutInPlace() : m_file.PutInFreePlace();
 }

@@ -29,6 +29,5 @@ public:
   void PutInPlace(bool force);
 
 private:
-  std::filesystem::path m_place;
   ReplacementFile m_file;
 };

@@ -35,9 +35,11 @@ fs::path Absolute(const fs::path& argument)
   fs::path path = fs::absolute(argument);
   fs::path shortest = path.lexically_normal();
   const bool may_differ = std::find(path.begin(), path.end(), "..") != path.end();
+  const bool is_folder = path.filename() == ".." || path.filename() == "." || path.filename().empty();
   std::error_code missing;
-  const bool is_same = !may_differ || fs::equivalent(path, shortest, missing) ||
-                       fs::equivalent(path.parent_path(), shortest.parent_path(), missing);
+  // Of a file its folders are compared: one file may stand in two of them.
+  const bool is_same = !may_differ || (is_folder ? fs::equivalent(path, shortest, missing)
+                                                 : fs::equivalent(path.parent_path(), shortest.parent_path(), missing));
   return is_same ? shortest : path;
 }
 

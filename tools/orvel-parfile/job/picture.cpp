@@ -6,6 +6,7 @@
 
 #include <fcntl.h>
 #include <poll.h>
+#include <signal.h>
 #include <spawn.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -155,10 +156,6 @@ void WritePicture(const std::string& text, const fs::path& place)
   if (std::fclose(file.release()) != 0 || !is_written)
   {
     CannotWrite(place);
-  }
-  if (fs::exists(place))
-  {
-    replacement.TakeRightsOfPlace();
   }
   replacement.PutInPlace();
 }

@@ -9,10 +9,10 @@
 #include <sys/xattr.h>
 #include <unistd.h>
 
+#include <array>
 #include <cerrno>
 #include <cstring>
 #include <system_error>
-#include <vector>
 
 namespace fs = std::filesystem;
 
@@ -39,20 +39,26 @@ void BringToDisk(const fs::path& path)
   }
 }
 
-// An access control list goes with the rights: without the one of the place, or with one that its folder gives to new
-// files, they would mean more.
-bool TakeAccessList(const fs::path& from, const fs::path& to)
+constexpr const char* kAccessList = "system.posix_acl_access";
+
+bool HasAccessList(const fs::path& path)
 {
-  constexpr const char* name = "system.posix_acl_access";
-  const ssize_t size = getxattr(from.c_str(), name, nullptr, 0);
-  if (size <= 0)
+  return getxattr(path.c_str(), kAccessList, nullptr, 0) > 0;
+}
+
+// An access control list goes with the rights: without the one of the place, or with one that its folder gives to new
+// files, they would mean more. One that tells of a group which the file cannot have is not taken.
+bool TakeAccessList(const fs::path& from, const fs::path& to, bool keeps_group)
+{
+  if (!HasAccessList(from))
   {
-    removexattr(to.c_str(), name);
+    removexattr(to.c_str(), kAccessList);
     return true;
   }
-  std::vector<char> list(static_cast<std::size_t>(size));
-  return getxattr(from.c_str(), name, list.data(), list.size()) == size &&
-         setxattr(to.c_str(), name, list.data(), list.size(), 0) == 0;
+  std::array<char, 65536> list{};  // the most that an attribute holds
+  const ssize_t size = getxattr(from.c_str(), kAccessList, list.data(), list.size());
+  return keeps_group && size > 0 &&
+         setxattr(to.c_str(), kAccessList, list.data(), static_cast<std::size_t>(size), 0) == 0;
 }
 
 }  // namespace
@@ -93,34 +99,58 @@ void ReplacementFile::CopyFromPlace() const
   }
 }
 
+// As they are now, since the file may soon not be the user's to read.
+void ReplacementFile::BringContentToDisk() const
+{
+  BringToDisk(Path());
+}
+
 void ReplacementFile::TakeRightsOfPlace() const
 {
-  if (!TakeAccessList(m_place, Path()))
-  {
-    Refuse(m_place, "replaced", "its access control list cannot be kept");
-  }
   struct stat rights
   {
   };
-  if (stat(m_place.c_str(), &rights) != 0 || chmod(Path().c_str(), rights.st_mode & 07777) != 0)
+  if (stat(m_place.c_str(), &rights) != 0)
   {
     Refuse(m_place, "replaced", std::strerror(errno));
   }
-  // Only the superuser may give files away; a group of the user's own is kept. A change of owner takes set-id bits
-  // away.
-  if (chown(Path().c_str(), rights.st_uid, rights.st_gid) == 0 ||
-      chown(Path().c_str(), static_cast<uid_t>(-1), rights.st_gid) == 0)
+  const fs::path path = Path();
+  // Only the superuser may give files away; a group of the user's own is kept. Another group must not get what that of
+  // the place had.
+  const bool keeps_group = chown(path.c_str(), rights.st_uid, rights.st_gid) == 0 ||
+                           chown(path.c_str(), static_cast<uid_t>(-1), rights.st_gid) == 0;
+  if (!TakeAccessList(m_place, path, keeps_group))
   {
-    chmod(Path().c_str(), rights.st_mode & 07777);
+    Refuse(m_place, "replaced", "its access control list cannot be kept");
+  }
+  // Last, as a change of owner takes set-id bits away.
+  const mode_t without_group = static_cast<mode_t>(~(S_IRWXG | S_ISGID));
+  const mode_t mode = rights.st_mode & 07777;
+  if (chmod(path.c_str(), keeps_group ? mode : mode & without_group) != 0)
+  {
+    Refuse(m_place, "replaced", std::strerror(errno));
   }
 }
 
 void ReplacementFile::PutInFreePlace() const
 {
-  BringToDisk(Path());
-  // Some file systems know links only, others the renaming alone.
-  const bool is_put = renameat2(AT_FDCWD, Path().c_str(), AT_FDCWD, m_place.c_str(), RENAME_NOREPLACE) == 0 ||
-                      (errno == EINVAL && link(Path().c_str(), m_place.c_str()) == 0);
+  BringContentToDisk();
+  const fs::path path = Path();
+  // Some file systems know the one, some the other, some neither.
+  bool is_put = renameat2(AT_FDCWD, path.c_str(), AT_FDCWD, m_place.c_str(), RENAME_NOREPLACE) == 0;
+  if (!is_put && errno != EEXIST)
+  {
+    is_put = link(path.c_str(), m_place.c_str()) == 0;
+  }
+  if (!is_put && errno != EEXIST)
+  {
+    const int taken = open(m_place.c_str(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, 0600);
+    is_put = taken >= 0 && rename(path.c_str(), m_place.c_str()) == 0;
+    if (taken >= 0)
+    {
+      close(taken);
+    }
+  }
   if (!is_put && errno == EEXIST)
   {
     RefuseWhatIsThere(m_place);
@@ -134,7 +164,11 @@ void ReplacementFile::PutInFreePlace() const
 
 void ReplacementFile::PutInPlace() const
 {
-  BringToDisk(Path());
+  BringContentToDisk();
+  if (fs::exists(m_place))
+  {
+    TakeRightsOfPlace();
+  }
   std::error_code error;
   fs::rename(Path(), m_place, error);
   if (error)

@@ -24,17 +24,18 @@ public:
   /// Makes the file as a copy of what stands in the place. Throws: UnwritableFile.
   void CopyFromPlace() const;
 
-  /// Gives the file the rights and, where possible, the owner of what stands in the place.
-  /// Throws: UnusableInput when that is not possible.
-  void TakeRightsOfPlace() const;
-
-  /// Brings the file safely to disk and to its place. Throws: UnusableInput when that is not possible.
+  /// Brings the file safely to disk and to its place, with the rights and, where possible, the owner of what stands
+  /// there. Where its group is not the user's to give, that of the new file gets no rights. Throws: UnusableInput when
+  /// that is not possible.
   void PutInPlace() const;
 
   /// The same where nothing may stand in the place. Throws: UnusableInput also when something has come there meanwhile.
   void PutInFreePlace() const;
 
 private:
+  void BringContentToDisk() const;
+  void TakeRightsOfPlace() const;
+
   std::filesystem::path m_place;
   ScratchFolder m_folder;
 };

@@ -10,9 +10,9 @@
 #include "subcommands.h"
 #include "support/exit_code.h"
 #include "support/nearest_name.h"
+#include "support/plain_text.h"
 
 #include "OrvelCommands/commands/LocalGenerated/SMOOTH_.h"
-#include "support/plain_text.h"
 
 #include <CLI/CLI.hpp>
 

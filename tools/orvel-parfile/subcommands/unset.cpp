@@ -82,54 +82,52 @@ void RequireEmpty(const Job& job, const Target& kind)
   }
 }
 
-// The keys of other commands that refer to a command, each as a command with this key alone.
-std::vector<JobCommand> ReferrersOf(const Job& job, const Target& target)
+// A key of another command that refers to the one that is removed.
+struct Referrer
 {
-  const JobValue reference = JobReference{target.kind, target.id};
-  std::vector<JobCommand> referrers;
+  std::string text;            ///< "DV_ porosity: FILTER_"
+  std::string path;            ///< "DV_/porosity/FILTER_"
+  std::vector<bool> is_meant;  ///< Of each of its values.
+};
+
+std::vector<Referrer> ReferrersOf(const Job& job, const Target& target)
+{
+  const JobReference removed{target.kind, target.id};
+  std::vector<Referrer> referrers;
   for (const JobCommand& command : job.commands)
   {
+    const bool is_itself = command.kind == target.kind && command.id == target.id;
     for (const JobKey& key : command.keys)
     {
-      const bool is_itself = command.kind == target.kind && command.id == target.id;
-      if (!is_itself &&
-          std::any_of(key.items.begin(), key.items.end(), [&](const JobItem& item) { return item.value == reference; }))
+      if (is_itself || !RefersTo(key, removed))
       {
-        referrers.push_back({command.kind, command.id, {key}, {}, {}});
+        continue;
+      }
+      referrers.push_back(
+        {SubjectText(command.kind, command.id, key.name), command.kind + "/" + command.id + "/" + key.name, {}});
+      for (const JobItem& item : key.items)
+      {
+        referrers.back().is_meant.push_back(item.value == JobValue(removed));
       }
     }
   }
   return referrers;
 }
 
-// A command that is made later could come to lie where the removed one lay.
-void LeadNowhere(const ChangedParameterFile& file, JobCommand referrer, const Target& target)
-{
-  for (JobItem& item : referrer.keys.front().items)
-  {
-    if (item.value == JobValue(JobReference{target.kind, target.id}))
-    {
-      item.value = JobReference();
-    }
-  }
-  file.SetKeys(referrer);
-}
-
 std::string RemoveCommand(const ChangedParameterFile& file, const Target& target, bool force)
 {
-  const std::vector<JobCommand> referrers = ReferrersOf(file.Before(), target);
-  for (const JobCommand& referrer : referrers)
+  const std::vector<Referrer> referrers = ReferrersOf(file.Before(), target);
+  for (const Referrer& referrer : referrers)
   {
-    std::cerr << SubjectText(referrer.kind, referrer.id, referrer.keys.front().name) << " refers to " << target.Text()
-              << (force ? " and now leads nowhere\n" : "\n");
+    std::cerr << referrer.text << " refers to " << target.Text() << (force ? " and now leads nowhere\n" : "\n");
   }
   if (!referrers.empty() && !force)
   {
     throw UnusableInput(target.Text() + " is still needed; --force removes it all the same");
   }
-  for (const JobCommand& referrer : referrers)
+  for (const Referrer& referrer : referrers)
   {
-    LeadNowhere(file, referrer, target);
+    file.MakeNull(referrer.path, referrer.is_meant);
   }
   file.Remove(target.Path());
   return target.Text() + " removed";
