@@ -144,10 +144,11 @@ void CheckCounts(const CheckSubject& subject, std::vector<Finding>& findings)
     }
     else if (ids.size() > 1)
     {
-      std::string names;
+      std::string text = "there are " + std::to_string(ids.size());
+      text += " " + name + ", where a job has one: ";
       for (const std::string& id : ids)
       {
-        names += (names.empty() ? "" : ", ") + PlainText(id);
+        text += (&id == &ids.front() ? "" : ", ") + PlainText(id);
       }
       const JobCommand& last = OneToRemove(subject, name, ids);
       findings.push_back({&rules::command_count,
@@ -156,7 +157,7 @@ void CheckCounts(const CheckSubject& subject, std::vector<Finding>& findings)
                           {},
                           std::to_string(ids.size()),
                           last.place,
-                          "there are " + std::to_string(ids.size()) + " " + name + ", where a job has one: " + names,
+                          text,
                           "leave one; of another, " + subject.remedies.Remove(last)});
     }
   }

@@ -21,8 +21,9 @@ constexpr std::size_t kMostWords = 20;
 
 std::string ShellWord(const std::string& word)
 {
-  const bool is_plain = !word.empty() && std::all_of(word.begin(), word.end(), [](unsigned char character) {
-    return std::isalnum(character) != 0 || std::string_view("_-./:@%+=,").find(character) != std::string_view::npos;
+  const bool is_plain = !word.empty() && std::all_of(word.begin(), word.end(), [](char character) {
+    return std::isalnum(static_cast<unsigned char>(character)) != 0 ||
+           std::string_view("_-./:@%+=,").find(character) != std::string_view::npos;
   });
   if (is_plain)
   {
@@ -55,7 +56,7 @@ bool IsBareInToml(const schema::Field& field)
 
 std::string TomlText(const std::string& text)
 {
-  const std::string plain = PlainText(text);
+  std::string plain = PlainText(text);
   if (!text.empty() && plain.front() == '"')
   {
     return plain;

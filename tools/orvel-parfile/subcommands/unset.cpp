@@ -43,13 +43,8 @@ Target ReadTarget(const std::vector<std::string>& words, bool may_be_all)
   {
     throw UnusableInput("unset needs a kind, or a kind and an id, or a kind, an id and a key");
   }
-  Target target;
-  std::string* const parts[] = {&target.kind, &target.id, &target.key};
-  for (std::size_t place = 0; place < words.size(); ++place)
-  {
-    *parts[place] = words[place];
-  }
-  return target;
+  const auto word = [&](std::size_t place) { return place < words.size() ? words[place] : std::string(); };
+  return {word(0), word(1), word(2)};
 }
 
 void RequireThere(const Job& job, const Target& target)
