@@ -41,7 +41,7 @@ void LoadOneCommand(const OrvelParfileStorage& storage, std::uint64_t position, 
   command->Load(storage, name);
   owner.reset(command);
   list.push_back(command);
-  owner.release();
+  static_cast<void>(owner.release());  // the list's now
 }
 
 /// Loads all commands of a kind, in the storage's order.

@@ -26,7 +26,8 @@ constexpr std::size_t kLineWidth = 100;
 bool IsNamedNumber(double value)
 {
   const double named = std::numeric_limits<double>::quiet_NaN();
-  return !std::isnan(value) || std::memcmp(&value, &named, sizeof value) == 0;
+  return !std::isnan(value) ||
+         std::memcmp(&value, &named, sizeof value) == 0;  // NOLINT(*-suspicious-memory-comparison)
 }
 
 // Whether a text tells all of a value.
@@ -334,7 +335,7 @@ void NoteName(const std::string& name, const std::string& what, std::vector<std:
 std::vector<std::string> NotCarried(const Job& job)
 {
   std::vector<std::string> notes;
-  if (JobIndex(job).Ids(kExtraKinds).size() > 0 || Contains(job.empty_kinds, kExtraKinds))
+  if (!JobIndex(job).Ids(kExtraKinds).empty() || Contains(job.empty_kinds, kExtraKinds))
   {
     notes.push_back(std::string("the kind ") + kExtraKinds + " has the name of another thing in a job description");
   }

@@ -194,7 +194,7 @@ std::string DescribeType(hid_t type)
   if (type_class == H5T_VLEN)
   {
     const hid_t element = H5Tget_super(type);
-    const std::string text = "a sequence, each item " + DescribeType(element);
+    std::string text = "a sequence, each item " + DescribeType(element);
     H5Tclose(element);
     return text;
   }
